@@ -1,0 +1,110 @@
+#include "platform/desktop/canvas.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "platform/desktop/fonts.h"
+#include "platform/desktop/handlers.h"
+
+namespace platform::desktop {
+
+Canvas::Canvas(const Window& window, QWidget* parent)
+    : QWidget(parent), table(window), user_bounds(0, 0, window.client_width, window.client_height) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    device.pen_colour = window.fore_colour;
+    device.changed = [this] { has_changed = true; };
+}
+
+Canvas::~Canvas() {
+    Close_Painter(device);
+}
+
+void Canvas::Open() {
+    image = QImage();
+    Fit_Image();
+}
+
+void Canvas::Wipe() {
+    if (image.isNull()) return;
+    Close_Painter(device);
+    image.fill(Back_Colour());
+    has_changed = true;
+}
+
+void Canvas::Show_Drawing() {
+    if (!has_changed) return;
+    has_changed = false;
+    update();
+}
+
+QSize Canvas::Device_Size() const {
+    return (QSizeF(size()) * devicePixelRatioF()).toSize().expandedTo({1, 1});
+}
+
+/// Gives the image the size of the client area: the picture stays, a new strip has the back colour.
+void Canvas::Fit_Image() {
+    const QSize wanted = Device_Size();
+    if (image.size() == wanted) return;
+    Close_Painter(device);
+    QImage fitted(wanted, QImage::Format_RGB32);
+    fitted.fill(Back_Colour());
+    if (!image.isNull()) QPainter(&fitted).drawImage(0, 0, image);
+    image = std::move(fitted);
+
+    QFont font = Default_Font();
+    font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * devicePixelRatioF())));
+    if (font != device.font) device.texts.clear();
+    device.font = font;
+    device.pen_scale = devicePixelRatioF();
+    device.area = image.rect();
+    device.target = &image;
+    update();
+}
+
+QColor Canvas::Back_Colour() const {
+    const Colour colour = table.back_colour;
+    return {colour.red, colour.green, colour.blue};
+}
+
+void Canvas::paintEvent(QPaintEvent*) {
+    if (image.isNull()) return;
+    Fit_Image();  // The window may have moved to a screen of another scale.
+    Close_Painter(device);
+    // A second header for the same pixels: telling the image itself its ratio would copy them.
+    QImage picture(image.constBits(), image.width(), image.height(), image.bytesPerLine(),
+                   image.format());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    QPainter(this).drawImage(0, 0, picture);
+}
+
+void Canvas::resizeEvent(QResizeEvent*) {
+    if (!image.isNull()) Fit_Image();
+}
+
+void Canvas::mousePressEvent(QMouseEvent* event) {
+    Mouse_Button button;
+    switch (event->button()) {
+        case Qt::LeftButton:
+            button = Mouse_Button::Left;
+            break;
+        case Qt::RightButton:
+            button = Mouse_Button::Right;
+            break;
+        case Qt::MiddleButton:
+            button = Mouse_Button::Middle;
+            break;
+        default:
+            return;
+    }
+    if (table.mouse_down == nullptr) return;
+    const QSize size = Device_Size();
+    const double x = std::floor(event->position().x() * devicePixelRatioF());
+    const double y = std::floor(event->position().y() * devicePixelRatioF());
+    const double user_x = user_bounds.left() + x * user_bounds.width() / size.width();
+    const double user_y = user_bounds.top() + y * user_bounds.height() / size.height();
+    On_Event(
+        [&] { table.mouse_down(button, static_cast<float>(user_x), static_cast<float>(user_y)); });
+}
+
+}  // namespace platform::desktop

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+#include "platform/desktop/device.h"
+#include "platform/window.h"
+
+namespace platform::desktop {
+
+/// A window's client area: what is drawn on it stays in an image of its size in device pixels, from
+/// which it is shown again whenever it is uncovered. The controls are its children.
+class Canvas final : public QWidget {
+  public:
+    Canvas(const Window& window, QWidget* parent);
+    ~Canvas() override;
+
+    /// Makes the image, wiped; until then drawing is lost.
+    void Open();
+
+    /// Wipes the picture.
+    void Wipe();
+
+    /// Lets the toolkit show what has been drawn since the last time. Called when a handler has
+    /// ended, so that the screen never shows half a picture.
+    void Show_Drawing();
+
+    /// Bounds that mouse presses are mapped onto.
+    void Set_User_Bounds(const QRectF& bounds) { user_bounds = bounds; }
+
+    Device_Context device;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+  private:
+    QSize Device_Size() const;
+    void Fit_Image();
+    QColor Back_Colour() const;
+
+    const Window& table;
+    QImage image;
+    QRectF user_bounds;
+    bool has_changed = false;
+};
+
+}  // namespace platform::desktop

@@ -1,0 +1,114 @@
+#include "platform/desktop/entry_combo.h"
+
+#include <QAbstractProxyModel>
+#include <QCompleter>
+#include <QFontMetrics>
+#include <QLineEdit>
+#include <QListView>
+#include <QScrollBar>
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
+#include "platform/desktop/code_page_validator.h"
+#include "platform/desktop/fonts.h"
+
+namespace platform::desktop {
+
+namespace {
+
+constexpr int Rows_Shown = 14;
+
+/// A list that takes its measures from one row, and shows entries in full.
+QListView* New_List_View() {
+    auto* view = new QListView;
+    view->setUniformItemSizes(true);
+    view->setTextElideMode(Qt::ElideNone);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    return view;
+}
+
+/// Width of a list that shows the entries in full. Only the longest by count are measured, for
+/// measuring takes far longer than anything else here.
+int List_Width(const QStringList& entries, const QAbstractItemView& view) {
+    constexpr std::ptrdiff_t Measured = 64;
+    std::vector<const QString*> longest;
+    for (const QString& entry : entries)
+        longest.push_back(&entry);
+    const auto count = std::min(std::ssize(longest), Measured);
+    std::partial_sort(longest.begin(), longest.begin() + count, longest.end(),
+                      [](const QString* a, const QString* b) { return a->size() > b->size(); });
+    const QFontMetrics metrics(view.font());
+    int width = 0;
+    for (auto entry = longest.begin(); entry != longest.begin() + count; ++entry) {
+        width = std::max(width, metrics.horizontalAdvance(**entry));
+    }
+    return width + view.verticalScrollBar()->sizeHint().width() + metrics.averageCharWidth() * 3;
+}
+
+}  // namespace
+
+Entry_Combo::Entry_Combo(QWidget* parent)
+    : QComboBox(parent), model_of_entries(new QStringListModel(this)) {
+    setView(New_List_View());
+    setModel(model_of_entries);
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMaxVisibleItems(Rows_Shown);
+    lineEdit()->setValidator(new Code_Page_Validator(this));
+    // The toolkit's own box would pick the entry whose text was typed as soon as the focus goes.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+    Build_Completer();
+    connect(this, &QComboBox::activated, this, [this](int index) { picked = index; });
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this] { picked = -1; });
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this] { Fit_Text(); });
+}
+
+void Entry_Combo::Build_Completer() {
+    auto* completer = new QCompleter(this);
+    completer->setPopup(New_List_View());
+    completer->setModel(model_of_entries);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    completer->setFilterMode(Qt::MatchContains);
+    completer->setMaxVisibleItems(Rows_Shown);
+    setCompleter(completer);
+    // An entry that the arrow keys have reached stands in the text box, so it is picked.
+    connect(completer, qOverload<const QModelIndex&>(&QCompleter::highlighted), this,
+            [this, completer](const QModelIndex& index) {
+                const auto* proxy =
+                    qobject_cast<QAbstractProxyModel*>(completer->completionModel());
+                picked = index.isValid() ? proxy->mapToSource(index).row() : -1;
+            });
+}
+
+/// A name a little too long for the box is condensed rather than cut.
+void Entry_Combo::Fit_Text() {
+    lineEdit()->setFont(font());
+    const int room = lineEdit()->width() - 2 * lineEdit()->fontMetrics().averageCharWidth();
+    Condense_To_Fit(*lineEdit(), lineEdit()->text(), room);
+}
+
+void Entry_Combo::resizeEvent(QResizeEvent* event) {
+    QComboBox::resizeEvent(event);
+    Fit_Text();
+}
+
+void Entry_Combo::Set_Entries(const QStringList& entries) {
+    const QString text = picked < 0 ? currentText() : QString();
+    model_of_entries->setStringList(entries);
+    const int list_width = List_Width(entries, *view());
+    view()->setMinimumWidth(list_width);
+    completer()->popup()->setMinimumWidth(list_width);
+    Set_Free_Text(text);
+}
+
+void Entry_Combo::Set_Free_Text(const QString& text) {
+    const QSignalBlocker blocker(this);
+    picked = -1;
+    setCurrentIndex(-1);
+    setEditText(text);
+    lineEdit()->setCursorPosition(0);
+}
+
+}  // namespace platform::desktop

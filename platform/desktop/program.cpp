@@ -1,0 +1,51 @@
+#include "platform/program.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+#include <clocale>
+
+#include "platform/desktop/fonts.h"
+#include "platform/desktop/handlers.h"
+#include "platform/desktop/program_icon.h"
+#include "platform/desktop/windows.h"
+
+namespace platform {
+
+namespace {
+
+/// The same look everywhere, in the grey that the windows' tables are made for: a theme of the
+/// desktop would bring wider controls and, a dark one, light text on them.
+void Set_Look() {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette palette(QColor(212, 208, 200));
+    palette.setColor(QPalette::Highlight, QColor(10, 36, 106));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(palette);
+    QApplication::setFont(desktop::Default_Font());
+    QApplication::setWindowIcon(desktop::Program_Icon());
+}
+
+}  // namespace
+
+int Run(int argc, char** argv, Handler start) {
+    // The toolkit reads no options from the command line either.
+    int arguments = argc > 0 ? 1 : 0;
+    QApplication application(arguments, argv);
+    // The toolkit takes the user's locale, in which a number may have a decimal comma.
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setApplicationName(QStringLiteral("skerrand"));
+    QApplication::setApplicationDisplayName(QString());
+    QGuiApplication::setDesktopFileName(QStringLiteral("skerrand"));
+    // A window may close before the next one shows; the end is decided after each handler.
+    QApplication::setQuitOnLastWindowClosed(false);
+    Set_Look();
+
+    desktop::Reset_Life();
+    desktop::Call(start);
+    const int status = desktop::Is_Ending() ? 0 : QApplication::exec();
+    desktop::Destroy_Windows();
+    return status;
+}
+
+}  // namespace platform

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace platform {
+
+enum class Icon : std::uint8_t { Information, Exclamation, Critical };
+
+/// Shows a message with one button and returns when the user has answered it. No timer ticks
+/// meanwhile. Lines of `text` are parted by a carriage return and a line feed. Windows-1252.
+void Message_Box(std::string_view text, Icon icon, std::string_view title);
+
+}  // namespace platform

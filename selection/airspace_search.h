@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string_view>
+
+/// The search for the airspaces of the two picked airports, and the labels that it gives them.
+namespace skerrand {
+
+// What `class_label` of an airspace may hold.
+inline constexpr std::string_view Label_Center = "ARTCC/FIR";
+inline constexpr std::string_view Label_Class_B = "Airspace Class B";
+inline constexpr std::string_view Label_Class_C = "Airspace Class C";
+inline constexpr std::string_view Label_Class_D = "Airspace Class D";
+inline constexpr std::string_view Label_Tracon = "TRACON (Departure/Approach)";
+
+/// Fills `departure_airspaces` and `destination_airspaces` from the files of `airspace_files`,
+/// labels them, and adds to each a disc round its airport if that has a departure or approach
+/// frequency. The airspaces stand in the order of the list, then of the file, the disc last;
+/// nothing removes repeats. Empties `current_airspaces`, and frees the list of files and the file
+/// in hand.
+///
+/// Expects the picked airports, and the database ready in a run that is not the first, so that the
+/// walk of a file searches. Shows its progress in the picker. Files that are no BGL files are
+/// passed over in silence; those that cannot be read are, too, but one message at the end tells of
+/// them.
+void Search_Airspaces();
+
+}  // namespace skerrand

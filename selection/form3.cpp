@@ -1,0 +1,127 @@
+#include "selection/form3.h"
+
+#include "platform/controls.h"
+#include "platform/program.h"
+#include "platform/timers.h"
+#include "scenery/scan.h"
+#include "scenery/tables.h"
+#include "selection/picker.h"
+
+namespace skerrand::form3 {
+
+namespace {
+
+using platform::Control;
+using platform::Find_Control;
+using enum platform::Control_Kind;
+
+void Form_Load();
+void Form_Unload();
+void Command2_Click();
+
+constexpr const char* Pick_Hint = "[Type and select an airport from the list]";
+
+constexpr Control controls[] = {
+    {.name = "Frame1", .kind = Frame, .at = {120, 120, 4815, 1935}, .caption = "Airports lists"},
+    {.name = "Label1",
+     .kind = Label,
+     .in = "Frame1",
+     .at = {120, 480, 1335, 255},
+     .caption = "Departure Airport:"},
+    {.name = "Combo1",
+     .kind = Combo,
+     .in = "Frame1",
+     .at = {1560, 480, 3135, 315},
+     .caption = Pick_Hint,
+     .sorted = true},
+    {.name = "Label3",
+     .kind = Label,
+     .in = "Frame1",
+     .at = {120, 960, 1455, 255},
+     .caption = "Destination Airport:"},
+    {.name = "Combo2",
+     .kind = Combo,
+     .in = "Frame1",
+     .at = {1560, 960, 3135, 315},
+     .caption = Pick_Hint,
+     .sorted = true},
+    {.name = "Drive1", .kind = Drive, .in = "Frame1", .at = {1560, 1440, 3135, 315}},
+    {.name = "Label2", .kind = Label, .at = {120, 2400, 855, 255}, .caption = "Scanning:"},
+    {.name = "Text1",
+     .kind = Text,
+     .at = {960, 2400, 2775, 285},
+     .caption = "-None-",
+     .read_only = true},
+    {.name = "ProgressBar1", .kind = Progress, .at = {120, 2880, 4815, 255}},
+    {.name = "Command3",
+     .kind = Button,
+     .at = {1560, 3360, 1575, 495},
+     .caption = "GET AIRPORT",
+     .handler = Get_Airports},
+    {.name = "Command2",
+     .kind = Button,
+     .at = {3240, 3360, 1695, 495},
+     .caption = "CLOSE_PROGRAM",
+     .handler = Command2_Click},
+    {.name = "Read_Sceneries_Paths",
+     .kind = Timer,
+     .handler = Read_Sceneries_Paths_Timer,
+     .interval = 1000,
+     .enabled = false},
+    {.name = "Scan_Bgls",
+     .kind = Timer,
+     .handler = Scan_Bgls_Timer,
+     .interval = 5,
+     .enabled = false},
+};
+
+}  // namespace
+
+constexpr platform::Window window = {.name = "Form3",
+                                     .caption = "Choosing an airport",
+                                     .client_width = 5115,
+                                     .client_height = 3990,
+                                     .controls = controls,
+                                     .load = Form_Load,
+                                     .unload = Form_Unload};
+
+constexpr platform::Control_Ref Combo1 = Find_Control(window, "Combo1");
+constexpr platform::Control_Ref Combo2 = Find_Control(window, "Combo2");
+constexpr platform::Control_Ref Command2 = Find_Control(window, "Command2");
+constexpr platform::Control_Ref Command3 = Find_Control(window, "Command3");
+constexpr platform::Control_Ref Drive1 = Find_Control(window, "Drive1");
+constexpr platform::Control_Ref ProgressBar1 = Find_Control(window, "ProgressBar1");
+constexpr platform::Control_Ref Read_Sceneries_Paths =
+    Find_Control(window, "Read_Sceneries_Paths");
+constexpr platform::Control_Ref Scan_Bgls = Find_Control(window, "Scan_Bgls");
+
+namespace {
+
+constexpr platform::Control_Ref Text1 = Find_Control(window, "Text1");
+
+void Form_Load() { platform::Start_Timer(Read_Sceneries_Paths); }
+
+void Command2_Click() {
+    Set_Status("Please wait...");
+    Release_Airport_Table();
+    platform::End_Program();
+}
+
+void Form_Unload() {
+    if (platform::Text_Of(Text1) == Done) Command2_Click();
+}
+
+}  // namespace
+
+void Set_Status(const char* text) {
+    platform::Set_Text(Text1, text);
+    platform::Repaint(Text1);
+}
+
+void Set_Input_Enabled(bool enabled) {
+    for (const platform::Control_Ref control : {Combo1, Combo2, Command3, Command2}) {
+        platform::Set_Enabled(control, enabled);
+    }
+}
+
+}  // namespace skerrand::form3

@@ -1,0 +1,379 @@
+// One test for every back-end: what the headers of the layer promise, seen from the program's side.
+
+#include <algorithm>
+#include <fstream>
+#include <gtest/gtest.h>
+
+#include "platform/drawing.h"
+#include "platform/files.h"
+#include "platform/timers.h"
+#include "tests/conformance/driver.h"
+#include "tests/conformance/windows.h"
+
+namespace conformance {
+
+using namespace platform;
+
+namespace {
+
+constexpr auto Fast = Main("Fast");
+constexpr auto Slow = Main("Slow");
+constexpr auto Check1 = Main("Check1");
+constexpr auto Combo1 = Main("Combo1");
+constexpr auto List1 = Main("List1");
+constexpr auto Button1 = Main("Button1");
+constexpr auto Option1 = Main("Option1");
+constexpr auto Option2 = Main("Option2");
+
+constexpr Colour Red{255, 0, 0};
+constexpr Colour Blue{0, 0, 255};
+
+class Conformance : public testing::Test {
+  protected:
+    void SetUp() override { driver::Start(Show_Main); }
+};
+
+// Times are checked from one side only, so that a slow machine makes no test fail: a tick may come
+// late, and never early.
+void Expect_No_Tick_Before(int interval, long long since) {
+    if (driver::Clock() - since < interval) {
+        EXPECT_EQ(counts.fast_ticks, 0);
+    }
+}
+
+TEST_F(Conformance, Starting_A_Running_Timer_Must_Not_Put_Its_Tick_Off) {
+    Start_Timer(Fast);
+    driver::Advance(120);
+    Start_Timer(Fast);
+    driver::Advance(120);
+    EXPECT_EQ(counts.fast_ticks, 1);
+}
+
+TEST_F(Conformance, A_Timer_Started_After_A_Stop_Or_Given_An_Interval_Starts_It_Anew) {
+    Start_Timer(Fast);
+    driver::Advance(120);
+    Stop_Timer(Fast);
+    EXPECT_FALSE(Is_Running(Fast));
+    Start_Timer(Fast);
+    long long since = driver::Clock();
+    driver::Advance(120);
+    Expect_No_Tick_Before(200, since);
+    counts = {};
+    Set_Interval(Fast, 300);
+    since = driver::Clock();
+    driver::Advance(200);
+    Expect_No_Tick_Before(300, since);
+    driver::Advance(150);
+    EXPECT_GE(counts.fast_ticks, 1);
+}
+
+TEST_F(Conformance, A_Stopped_Timer_One_Of_Interval_0_And_One_Of_A_Gone_Window_Never_Tick) {
+    Set_Interval(Fast, 0);
+    Start_Timer(Fast);
+    Start_Timer(Slow);
+    Stop_Timer(Slow);
+    driver::Advance(250);
+    EXPECT_TRUE(Is_Running(Fast));
+    Show(Second_Window);
+    Set_Interval(Fast, 10);
+    Unload(Main_Window);
+    EXPECT_FALSE(Is_Running(Fast));
+    driver::Advance(50);
+    EXPECT_EQ(counts.fast_ticks + counts.slow_ticks, 0);
+}
+
+TEST_F(Conformance, A_Tick_That_Unloads_Its_Own_Window_Runs_To_Its_End) {
+    Show(Second_Window);
+    on_fast_tick = [] {
+        Unload(Main_Window);
+        Set_Caption(Main_Window, "gone");
+        Start_Timer(Fast);
+        counts.clicks = 7;
+    };
+    Start_Timer(Fast);
+    driver::Advance(700);
+    EXPECT_EQ(counts.clicks, 7);
+    EXPECT_EQ(counts.fast_ticks, 1);
+    EXPECT_EQ(counts.unloads, 1);
+    EXPECT_TRUE(driver::Running());
+}
+
+TEST_F(Conformance, Ticks_That_Fall_Due_While_A_Message_Stands_Are_Dropped) {
+    driver::Hold_Messages(300);
+    on_fast_tick = [] {
+        Stop_Timer(Fast);
+        const int before = counts.slow_ticks;
+        Message_Box("Caf\xE9\r\nopen", Icon::Critical, "Title");
+        EXPECT_EQ(counts.slow_ticks, before);
+    };
+    Set_Interval(Slow, 20);
+    Start_Timer(Slow);
+    Start_Timer(Fast);
+    const long long start = driver::Clock();
+    driver::Advance(250);
+    const auto messages = driver::Take_Messages();
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0].text, "Caf\xE9\r\nopen");
+    EXPECT_EQ(messages[0].title, "Title");
+    EXPECT_EQ(messages[0].icon, Icon::Critical);
+    EXPECT_LE(counts.slow_ticks, (driver::Clock() - start) / 20);
+}
+
+TEST_F(Conformance, The_Program_Ends_By_A_Call_Or_With_Its_Last_Window_And_Not_Before) {
+    Set_Interval(Fast, 10);
+    Start_Timer(Fast);
+    on_fast_tick = End_Program;
+    driver::Advance(100);
+    EXPECT_FALSE(driver::Running());
+    EXPECT_EQ(counts.fast_ticks, 1);
+    EXPECT_EQ(counts.unloads, 0);
+
+    driver::Start(Show_Main);
+    on_fast_tick = [] {
+        Unload(Main_Window);
+        Show(Second_Window);
+    };
+    Set_Interval(Fast, 10);
+    Start_Timer(Fast);
+    driver::Advance(100);
+    EXPECT_TRUE(driver::Running());
+    driver::Close(Second_Window);
+    EXPECT_FALSE(driver::Running());
+}
+
+TEST_F(Conformance, A_Window_Loads_Once_And_Tells_Every_Change_Of_Its_Size_And_State) {
+    Show(Main_Window);
+    EXPECT_EQ(counts.loads, 1);
+    EXPECT_EQ(counts.resizes, 0);
+    const Size outer = Outer_Size(Main_Window);
+    EXPECT_GE(outer.width, 6000);
+    EXPECT_GE(outer.height, 4800);
+
+    driver::Minimise(Main_Window);
+    EXPECT_EQ(counts.resizes, 1);
+    EXPECT_EQ(counts.state_at_resize, Window_State::Minimised);
+    EXPECT_EQ(Outer_Size(Main_Window).width, outer.width);
+    driver::Restore(Main_Window);
+    EXPECT_EQ(counts.resizes, 2);
+    EXPECT_EQ(counts.state_at_resize, Window_State::Normal);
+    Minimise(Main_Window);
+    EXPECT_EQ(counts.resizes, 3);
+    EXPECT_EQ(State_Of(Main_Window), Window_State::Minimised);
+    driver::Restore(Main_Window);
+
+    driver::Resize(Main_Window, 500, 400);
+    EXPECT_EQ(counts.resizes, 5);
+    EXPECT_EQ(Twips_To_Pixels_X(Outer_Size(Main_Window).width - outer.width), 100);
+    EXPECT_EQ(Twips_To_Pixels_Y(Outer_Size(Main_Window).height - outer.height), 80);
+}
+
+TEST_F(Conformance,
+       A_Press_Arrives_In_User_Coordinates_Unless_A_Control_Or_A_Disabled_Window_Has_It) {
+    Set_User_Coordinates(Main_Window, -10, 50, 30, 34);  // 400 by 320 pixels: 0.1 and -0.05 each
+    driver::Press(Main_Window, Mouse_Button::Middle, 100, 200);
+    EXPECT_EQ(counts.presses, 1);
+    EXPECT_EQ(counts.button, Mouse_Button::Middle);
+    EXPECT_EQ(counts.press_x, 0.0F);
+    EXPECT_EQ(counts.press_y, 40.0F);
+    driver::Press(Main_Window, Mouse_Button::Left, 310, 50);  // on the frame
+    Set_Enabled(Main_Window, false);
+    driver::Press(Main_Window, Mouse_Button::Left, 100, 200);
+    driver::Click(Button1);
+    EXPECT_EQ(counts.presses, 1);
+    EXPECT_EQ(counts.clicks, 0);
+}
+
+struct Probe {
+    const char* what;
+    void (*draw)(Device_Context* device);
+    int x, y;
+    Colour colour;
+};
+
+// The pen is red and 5 wide, the fill blue and solid.
+constexpr Probe probes[] = {
+    {"line from the current position", [](auto* d) { MoveToEx(d, 20, 50), LineTo(d, 90, 50); }, 40,
+     50, Red},
+    {"a line moves the current position",
+     [](auto* d) { MoveToEx(d, 20, 20), LineTo(d, 20, 90), LineTo(d, 90, 90); }, 60, 90, Red},
+    {"other shapes leave the current position",
+     [](auto* d) {
+         MoveToEx(d, 20, 150);
+         Rectangle(d, 100, 10, 120, 30), Ellipse(d, 100, 10, 120, 30);
+         Arc(d, 100, 10, 120, 30, 120, 20, 100, 20), TextOutA(d, 100, 40, "text");
+         LineTo(d, 90, 150);
+     },
+     60, 150, Red},
+    {"inside of a rectangle", [](auto* d) { Rectangle(d, 90, 90, 20, 20); }, 50, 50, Blue},
+    {"outline of a rectangle", [](auto* d) { Rectangle(d, 90, 20, 20, 90); }, 20, 50, Red},
+    {"inside of an ellipse", [](auto* d) { Ellipse(d, 20, 90, 90, 20); }, 55, 55, Blue},
+    {"corner beside an ellipse", [](auto* d) { Ellipse(d, 20, 20, 90, 90); }, 24, 24, Colour_White},
+    {"a hollow fill",
+     [](auto* d) { Set_Fill_Style(d, Fill_Style::Hollow), Ellipse(d, 20, 20, 90, 90); }, 55, 55,
+     Colour_White},
+    {"an arc goes counter-clockwise, over the top from right to left",
+     [](auto* d) { Arc(d, 20, 20, 90, 90, 200, 55, 0, 55); }, 55, 20, Red},
+    {"and not along the bottom", [](auto* d) { Arc(d, 20, 20, 90, 90, 200, 55, 0, 55); }, 55, 89,
+     Colour_White},
+    {"an arc has no inside", [](auto* d) { Arc(d, 20, 20, 90, 90, 200, 55, 0, 55); }, 55, 50,
+     Colour_White},
+    {"an arc between equal radials is whole",
+     [](auto* d) { Arc(d, 20, 20, 90, 90, 200, 55, 100, 55); }, 55, 89, Red},
+};
+
+TEST_F(Conformance, Shapes_Stand_Where_They_Were_Drawn) {
+    Device_Context* device = Window_Device(Main_Window);
+    ASSERT_NE(device, nullptr);
+    Set_Pen_Width(device, 5);
+    for (const Probe& probe : probes) {
+        Erase(Main_Window);
+        Set_Pen_Colour(device, Red);
+        Set_Fill_Colour(device, Blue);
+        Set_Fill_Style(device, Fill_Style::Solid);
+        probe.draw(device);
+        EXPECT_EQ(driver::Pixel(Main_Window, probe.x, probe.y), probe.colour) << probe.what;
+    }
+}
+
+TEST_F(Conformance, A_Drawing_Stays_Until_It_Is_Erased_And_The_State_Beyond_That) {
+    Device_Context* device = Window_Device(Main_Window);
+    Set_Pen_Width(device, 5);
+    MoveToEx(device, 20, 50);
+    LineTo(device, 90, 50);
+    driver::Minimise(Main_Window);
+    driver::Restore(Main_Window);
+    driver::Resize(Main_Window, 500, 400);
+    Show(Second_Window);
+    driver::Close(Second_Window);
+    driver::Advance(50);
+    EXPECT_EQ(driver::Pixel(Main_Window, 50, 50), Main_Window.fore_colour);
+    Erase(Main_Window);
+    EXPECT_EQ(driver::Pixel(Main_Window, 50, 50), Colour_White);
+    LineTo(device, 90, 150);
+    EXPECT_EQ(driver::Pixel(Main_Window, 92, 100), Main_Window.fore_colour);
+    Unload(Main_Window);
+    EXPECT_EQ(Window_Device(Main_Window), nullptr);
+    LineTo(nullptr, 1, 1);
+    TextOutA(nullptr, 1, 1, "text");
+}
+
+TEST_F(Conformance, Option_Buttons_Of_One_Frame_Clear_Each_Other_And_Leave_The_Others) {
+    Set_Checked(Main("Option3"), true);
+    Set_Checked(Option1, true);
+    Set_Checked(Option1, true);
+    EXPECT_EQ(counts.first_clicks, 1);
+    driver::Click(Option2);
+    EXPECT_FALSE(Is_Checked(Option1));
+    EXPECT_TRUE(Is_Checked(Option2));
+    EXPECT_TRUE(Is_Checked(Main("Option3")));
+    EXPECT_EQ(counts.first_clicks, 1);
+    EXPECT_EQ(counts.second_clicks, 1);
+    Set_Checked(Option2, false);
+    EXPECT_FALSE(Is_Checked(Option2));
+    EXPECT_EQ(counts.second_clicks, 1);
+}
+
+TEST_F(Conformance, A_Change_By_The_Program_Is_Told_Once_And_Only_If_It_Is_One) {
+    Set_Checked(Check1, true);
+    Set_Checked(Check1, true);
+    EXPECT_EQ(counts.check_clicks, 1);
+    driver::Click(Check1);
+    EXPECT_FALSE(Is_Checked(Check1));
+    EXPECT_EQ(counts.check_clicks, 2);
+    Set_Enabled(Check1, false);
+    driver::Click(Check1);
+    EXPECT_EQ(counts.check_clicks, 2);
+
+    Set_Text(Main("Text1"), "twice");
+    EXPECT_EQ(Text_Of(Main("Text1")), "once");
+    EXPECT_EQ(counts.text_changes, 2);
+    Set_Text(Main("Text1"), "once");
+    EXPECT_EQ(counts.text_changes, 2);
+}
+
+TEST_F(Conformance, Only_A_Picked_Entry_Is_A_Selection) {
+    const std::string unsorted[] = {"b", "\xE9t\xE9", "A", "a", "B"};
+    Add_Entries(Combo1, unsorted);
+    EXPECT_EQ(Text_Of(Combo1), "[start]");
+    EXPECT_EQ(Selected_Index(Combo1), -1);
+    const std::string sorted[] = {"A", "B", "a", "b", "\xE9t\xE9"};
+    ASSERT_EQ(Entry_Count(Combo1), 5);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(Entry_Text(Combo1, i), sorted[i]);
+    EXPECT_EQ(Entry_Text(Combo1, 5), "");
+    EXPECT_EQ(Entry_Text(Combo1, -1), "");
+
+    driver::Pick(Combo1, 4);
+    EXPECT_EQ(Selected_Index(Combo1), 4);
+    EXPECT_EQ(Text_Of(Combo1), "\xE9t\xE9");
+    driver::Type(Combo1, "A");
+    EXPECT_EQ(Selected_Index(Combo1), -1);
+    EXPECT_EQ(Text_Of(Combo1), "A");
+    driver::Pick(Combo1, 0);
+    Set_Text(Combo1, "B");
+    EXPECT_EQ(Selected_Index(Combo1), -1);
+    Clear_Entries(Combo1);
+    EXPECT_EQ(Entry_Count(Combo1), 0);
+}
+
+TEST_F(Conformance, A_List_Keeps_The_Order_Of_Addition_And_Forgets_Its_Selection_With_Its_Entries) {
+    const std::string lines[] = {"z", "a"};
+    Add_Entries(List1, lines);
+    EXPECT_EQ(Entry_Text(List1, 0), "z");
+    driver::Pick(List1, 1);
+    driver::Double_Click(List1);
+    EXPECT_EQ(counts.double_clicks, 1);
+    EXPECT_EQ(Selected_Index(List1), 1);
+    Clear_Entries(List1);
+    Add_Entries(List1, lines);
+    EXPECT_EQ(Selected_Index(List1), -1);
+}
+
+TEST_F(Conformance, A_Progress_Bar_Keeps_Its_Value_Inside_Its_Range) {
+    const platform::Progress cases[][2] = {{{5, 0, 10}, {5, 0, 10}},
+                                           {{-3, 0, 10}, {0, 0, 10}},
+                                           {{30, 20, 25}, {25, 20, 25}},
+                                           {{7, 3, 3}, {3, 3, 3}}};
+    for (const auto& [given, kept] : cases) {
+        Set_Progress(Main("Bar1"), given);
+        const platform::Progress now = Progress_Of(Main("Bar1"));
+        EXPECT_EQ(now.value, kept.value);
+        EXPECT_EQ(now.minimum, kept.minimum);
+        EXPECT_EQ(now.maximum, kept.maximum);
+    }
+}
+
+TEST_F(Conformance, A_Folder_List_Moves_To_Folders_That_Exist_And_To_No_Others) {
+    Show(Second_Window);
+    constexpr auto Dir1 = Find_Control(Second_Window, "Dir1");
+    Set_Folder_Path(Dir1, "");
+    const std::string working_folder = Folder_Path(Dir1);
+    EXPECT_EQ(working_folder, Current_Folder());
+    Set_Folder_Path(Dir1, "/no such folder/");
+    EXPECT_EQ(Folder_Path(Dir1), working_folder);
+    Set_Folder_Path(Dir1, "/");
+    EXPECT_EQ(Folder_Path(Dir1), "/");
+    EXPECT_GT(Entry_Count(Dir1), 0);
+}
+
+TEST_F(Conformance, A_File_Is_Found_In_Any_Case_And_Read_Back_Whole) {
+    const Bytes bytes = {0, 255, 13, 10, 26};
+    ASSERT_EQ(Write_File("Conformance_T\xE9st.bin", bytes), "");
+    Bytes back;
+    EXPECT_TRUE(Read_File("CONFORMANCE_T\xC9ST.BIN", back));
+    EXPECT_EQ(back, bytes);
+    const auto names = File_Names("", "T\xC9ST.bin");
+    EXPECT_EQ(names, std::vector<std::string>{"Conformance_T\xE9st.bin"});
+    Delete_File("conformance_t\xE9st.bin");
+    EXPECT_FALSE(File_Exists("Conformance_T\xE9st.bin"));
+}
+
+}  // namespace
+
+}  // namespace conformance
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    driver::Prepare(argc, argv);
+    return RUN_ALL_TESTS();
+}

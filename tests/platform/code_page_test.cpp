@@ -1,0 +1,54 @@
+#include "platform/code_page.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace platform;
+
+std::string All_Codes() {
+    std::string all;
+    for (int code = 0; code < 256; ++code)
+        all.push_back(static_cast<char>(code));
+    return all;
+}
+
+TEST(Code_Page, Every_Byte_Comes_Back_From_Utf8) {
+    const std::string utf8 = To_Utf8(All_Codes());
+    EXPECT_EQ(From_Utf8(utf8), All_Codes());
+    EXPECT_EQ(To_Utf8("\x80 \x8A \x99 \xE9 \xFF"), "\u20AC \u0160 \u2122 \u00E9 \u00FF");
+}
+
+TEST(Code_Page, What_Has_No_Place_Or_Is_Malformed_Is_Refused_Or_Marked) {
+    const struct {
+        std::string_view utf8, lossy;
+    } cases[] = {
+        {"a\u0416b", "a?b"},           // a letter of another script
+        {"\xF0\x9F\x9B\xAB!", "?!"},   // beyond the 16-bit plane
+        {"\xC2\x80", "?"},             // the control whose code the euro sign has
+        {"\xC3", "?"},                 // cut short
+        {"\xC3(", "?("},               // second byte missing
+        {"\xC1\xA1", "??"},            // longer than needed
+        {"\xE0\x82\xA0", "???"},       // the same with three bytes
+        {"\xED\xA0\x80", "???"},       // half of a surrogate pair
+        {"\xF4\x90\x80\x80", "????"},  // above the last character
+        {"\xA9\xFF", "??"},            // no first byte at all
+    };
+    for (const auto& [utf8, lossy] : cases) {
+        EXPECT_EQ(From_Utf8(utf8), std::nullopt) << lossy;
+        EXPECT_EQ(From_Utf8_Lossy(utf8), lossy);
+    }
+}
+
+TEST(Code_Page, Letters_Beyond_Ascii_Change_Case_And_Signs_Among_Them_Stay) {
+    EXPECT_EQ(Lower_Case("AZ[\x8A\x8C\x8E\x9F\xC0\xD6\xD7\xD8\xDE"),
+              "az[\x9A\x9C\x9E\xFF\xE0\xF6\xD7\xF8\xFE");
+    EXPECT_EQ(Upper_Case("az{\x9A\x9C\x9E\xFF\xE0\xF6\xF7\xF8\xFE"),
+              "AZ{\x8A\x8C\x8E\x9F\xC0\xD6\xF7\xD8\xDE");
+    const std::string both_stay = "\xDF\x83\xB5\xAA\x80@`";
+    EXPECT_EQ(Lower_Case(both_stay), both_stay);
+    EXPECT_EQ(Upper_Case(both_stay), both_stay);
+    EXPECT_EQ(Lower_Case(Upper_Case(Lower_Case(All_Codes()))), Lower_Case(All_Codes()));
+}
+
+}  // namespace

@@ -1,0 +1,246 @@
+#include "platform/headless/protocol.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/controls.h"
+#include "platform/drawing.h"
+#include "platform/headless/program.h"
+#include "platform/message_box.h"
+#include "platform/program.h"
+#include "tests/platform/scratch_folder.h"
+
+namespace {
+
+using namespace platform;
+using headless::Execute;
+using enum Control_Kind;
+
+void Click();
+void Load();
+
+constexpr Control controls[] = {
+    {.name = "File1", .kind = Menu, .caption = "File"},
+    {.name = "Quit1", .kind = Menu, .in = "File1", .handler = End_Program},
+    {.name = "Frame1", .kind = Frame, .at = {1500, 0, 1500, 1500}, .caption = "ok"},
+    {.name = "Check1", .kind = Check, .in = "Frame1", .at = {0, 300, 900, 300}},
+    {.name = "Label1",
+     .kind = Label,
+     .at = {0, 0, 300, 300},
+     .caption = "error here",
+     .font = {"MS Sans Serif", 18, true},
+     .colour = {192, 0, 0}},
+    {.name = "Combo1", .kind = Combo, .at = {0, 600, 900, 315}, .caption = "C:\\\r\nx\ty"},
+    {.name = "Button1", .kind = Button, .at = {0, 900, 900, 315}, .handler = Click},
+    {.name = "Drive1", .kind = Drive, .at = {0, 1200, 900, 315}, .handler = Click},
+    {.name = "Timer1", .kind = Timer, .interval = 1000},
+};
+
+constexpr Window Sample = {.name = "Form9",
+                           .caption = "\x80 ok",
+                           .client_width = 3008,
+                           .client_height = 3007,
+                           .controls = controls,
+                           .frame = Frame_Style::Sizable,
+                           .load = Load};
+
+void Click() {
+    Message_Box("a\tb\r\nc\\d", Icon::Information, "\xE9");
+}
+
+void Load() {
+    const std::string entries[] = {"ok", "error one", "\xD6 two", "error", "\\ok"};
+    Add_Entries(Find_Control(Sample, "Combo1"), entries);
+}
+
+struct Exchange {
+    const char* command;
+    const char* answer;
+};
+
+void Expect(std::initializer_list<Exchange> exchanges) {
+    for (const auto& [command, answer] : exchanges)
+        EXPECT_EQ(Execute(command), answer) << command;
+}
+
+class Protocol : public testing::Test {
+  protected:
+    void SetUp() override {
+        headless::Begin([] { Show(Sample); });
+    }
+};
+
+TEST_F(Protocol, Texts_Are_Escaped_So_That_No_Answer_Can_Be_Mistaken) {
+    Expect({{"get Form9.caption", "\u20AC ok\nok\n"},
+            {"get Form9.Frame1.caption", "\\ok\nok\n"},
+            {"get Form9.Label1.caption", "\\error here\nok\n"},
+            {"get Form9.Combo1.text", "C:\\\\\\r\\nx\\ty\nok\n"},
+            {"items Form9.Combo1", "\\ok\n\\error one\n\u00D6 two\nerror\n\\\\ok\nok\n"},
+            {"click Form9.Button1", "ok\n"},
+            {"messages", "information\t\u00E9\ta\\tb\\r\\nc\\\\d\nok\n"},
+            {"messages", "ok\n"}});
+}
+
+TEST_F(Protocol, A_Bad_Command_Is_An_Error_And_Changes_Nothing) {
+    for (const char* command : {"",
+                                "nonsense",
+                                "Clock",
+                                "clock ",
+                                "clock now",
+                                "advance",
+                                "advance -1",
+                                "advance +1",
+                                "advance 1 ",
+                                "advance 99999999999999999999",
+                                "get Form9",
+                                "get Form9.nothing",
+                                "get Form8.caption",
+                                "get Form9.Button1.text",
+                                "get Form9.Timer1.visible",
+                                "get Form9.Quit1.left",
+                                "get Form9.File1.font",
+                                "get Form9.Check1.min",
+                                "items Form9.Label1",
+                                "controls form9",
+                                "click Form9.Label1",
+                                "click Form9.Combo1",
+                                "click Form9",
+                                "click Form9. ",
+                                "double_click Form9.Combo1",
+                                "pick Form9.Combo1 5",
+                                "pick Form9.Combo1 -2",
+                                "pick Form9.Combo1 x",
+                                "pick Form9.Combo1",
+                                "pick Form9.Drive1 -1",
+                                "type Form9.Combo1",
+                                "type Form9.Combo1 \u0416",
+                                "type Form9.Button1 x",
+                                "drive Form9.Drive1 0",
+                                "folder Form9.Drive1 /",
+                                "mouse Form9 left 201 0",
+                                "mouse Form9 left 0 200",
+                                "mouse Form9 left -1 0",
+                                "mouse Form9 both 1 1",
+                                "resize Form9 7 100",
+                                "page 1",
+                                "svg Form8 x.svg",
+                                "svg Form9 /no/such/folder/x.svg"}) {
+        EXPECT_TRUE(Execute(command).starts_with("error ")) << command;
+    }
+    Expect({{"clock", "0\nok\n"},
+            {"get Form9.Combo1.index", "-1\nok\n"},
+            {"get Form9.width", "209\nok\n"},
+            {"messages", "ok\n"}});
+}
+
+TEST_F(Protocol, Measures_And_Looks_Are_Those_Of_The_Table_In_The_Fixed_Measures) {
+    Expect({{"forms", "Form9\nok\n"},
+            {"get Form9.client_width", "201\nok\n"},   // 200.53 pixels
+            {"get Form9.client_height", "200\nok\n"},  // 200.47
+            {"get Form9.height", "246\nok\n"},
+            {"get Form9.left", "64\nok\n"},
+            {"get Form9.Label1.font_size", "18\nok\n"},
+            {"get Form9.Label1.bold", "yes\nok\n"},
+            {"get Form9.Label1.colour", "192,0,0\nok\n"},
+            {"get Form9.Button1.font_size", "8.25\nok\n"},
+            {"get Form9.Button1.font", "MS Sans Serif\nok\n"},
+            {"get Form9.Timer1.enabled", "yes\nok\n"},
+            {"get Form9.Combo1.count", "5\nok\n"}});
+}
+
+TEST_F(Protocol, What_Is_Disabled_Takes_No_Input_And_A_Minimised_Window_Does) {
+    Set_Enabled(Find_Control(Sample, "Frame1"), false);
+    Set_Enabled(Find_Control(Sample, "Combo1"), false);
+    Expect({{"click Form9.Check1", "error disabled\n"},
+            {"pick Form9.Combo1 1", "error disabled\n"},
+            {"type Form9.Combo1 x", "error disabled\n"},
+            {"minimise Form9", "ok\n"},
+            {"resize Form9 300 300", "error this window cannot be resized\n"},
+            {"click Form9.Button1", "ok\n"},
+            {"restore Form9", "ok\n"},
+            {"resize Form9 300 300", "ok\n"},
+            {"get Form9.client_height", "254\nok\n"}});
+    Set_Enabled(Sample, false);
+    Expect({{"click Form9.Button1", "error disabled\n"}, {"close Form9", "error disabled\n"}});
+}
+
+TEST_F(Protocol, Typing_Takes_The_Rest_Of_The_Line_And_Clearing_Keeps_What_Was_Typed) {
+    Expect({{"type Form9.Combo1  a  \u00E9 ", "ok\n"},
+            {"get Form9.Combo1.text", " a  \u00E9 \nok\n"},
+            {"pick Form9.Combo1 -1", "ok\n"},
+            {"get Form9.Combo1.text", " a  \u00E9 \nok\n"},
+            {"pick Form9.Combo1 2", "ok\n"},
+            {"get Form9.Combo1.text", "\u00D6 two\nok\n"},
+            {"pick Form9.Combo1 -1", "ok\n"},
+            {"get Form9.Combo1.text", "\nok\n"},
+            {"type Form9.Combo1 ", "ok\n"}});
+}
+
+TEST_F(Protocol, Drives_Stand_In_Windows_Loaded_Later) {
+    Expect({{"drives c: [SYSTEM]|d:", "ok\n"}, {"items Form9.Drive1", "ok\n"}});
+    Unload(Sample);
+    Show(Sample);
+    Expect({{"items Form9.Drive1", "c: [SYSTEM]\nd:\nok\n"},
+            {"get Form9.Drive1.index", "-1\nok\n"},
+            {"drive Form9.Drive1 1", "ok\n"},
+            {"get Form9.Drive1.drive", "d:\nok\n"},
+            {"messages", "information\t\u00E9\ta\\tb\\r\\nc\\\\d\nok\n"}});
+}
+
+TEST_F(Protocol, After_The_End_Only_The_Looks_Back_Answer) {
+    Expect({{"click Form9.Quit1", "ok\n"},
+            {"running", "no\nok\n"},
+            {"messages", "ok\n"},
+            {"pages", "0\nok\n"},
+            {"clock", "error the program has ended\n"},
+            {"forms", "error the program has ended\n"}});
+    EXPECT_EQ(Execute("quit"), "ok\n");
+    EXPECT_TRUE(headless::Was_Quit());
+}
+
+TEST_F(Protocol, A_Picture_Holds_The_State_Of_Each_Call_Until_It_Is_Erased) {
+    Device_Context* device = Window_Device(Sample);
+    LineTo(device, 7, -3);
+    Set_Pen_Style(device, Pen_Style::Dashed);
+    Set_Pen_Colour(device, {0, 0, 192});
+    Arc(device, 8, 7, 6, 5, 4, 3, 2, 1);
+    Set_Fill_Style(device, Fill_Style::Solid);
+    Set_Pen_Width(device, 4);
+    Ellipse(device, 9, 1, 2, 3);
+    TextOutA(device, 0, 1, "a|\xE9 \\");
+    Expect({{"picture Form9",
+             "line 0 0 7 -3 | solid 1 0,0,0\n"
+             "arc 8 7 6 5 4 3 2 1 | dashed 1 0,0,192\n"
+             "ellipse 9 1 2 3 | dashed 4 0,0,192 | solid 0,0,0\n"
+             "text 0 1 a|\u00E9 \\\\ | 0,0,192\nok\n"}});
+    Erase(Sample);
+    Rectangle(device, 1, 2, 3, 4);
+    Expect({{"picture Form9", "rectangle 1 2 3 4 | dashed 4 0,0,192 | solid 0,0,0\nok\n"}});
+}
+
+TEST_F(Protocol, An_Svg_File_Holds_Each_Call_As_An_Element_That_Means_The_Same) {
+    const Scratch_Folder scratch;
+    Device_Context* device = Window_Device(Sample);
+    Set_Pen_Style(device, Pen_Style::Dashed);
+    LineTo(device, 7, -3);
+    Set_Fill_Style(device, Fill_Style::Solid);
+    Rectangle(device, 30, 20, 10, 10);
+    Arc(device, 0, 0, 100, 50, 200, 25, 50, 0);   // a quarter, from the right to the top
+    Arc(device, 0, 0, 100, 50, 50, 0, 200, 25);   // the other three
+    Arc(device, 0, 0, 100, 50, 80, 35, 110, 45);  // one radial through both points
+    Arc(device, 5, 5, 5, 50, 0, 0, 9, 9);
+    TextOutA(device, 4, 5, "<\xE9&\x01>");
+    ASSERT_EQ(Execute("svg Form9 a b.svg"), "ok\n");
+    std::ifstream file("a b.svg");
+    const std::string svg{std::istreambuf_iterator<char>(file), {}};
+    for (const char* element :
+         {"<line x1=\"0\" y1=\"0\" x2=\"7\" y2=\"-3\" stroke=\"rgb(0,0,0)\" stroke-dasharray=",
+          "<rect x=\"10\" y=\"10\" width=\"20\" height=\"10\"", " fill=\"rgb(0,0,0)\"/>",
+          "d=\"M 100 25 A 50 25 0 0 0 50 0\"", "d=\"M 50 0 A 50 25 0 1 0 100 25\"",
+          "<ellipse cx=\"50\" cy=\"25\" rx=\"50\" ry=\"25\"",
+          "<line x1=\"5\" y1=\"5\" x2=\"5\" y2=\"50\"", ">&lt;\u00E9&amp; &gt;</text>"}) {
+        EXPECT_NE(svg.find(element), std::string::npos) << element << " in\n" << svg;
+    }
+    EXPECT_EQ(std::count(svg.begin(), svg.end(), '\n'), 12);
+}
+
+}  // namespace

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+/// A fresh folder that is the working folder for as long as the object lives.
+class Scratch_Folder {
+  public:
+    Scratch_Folder() : old_(std::filesystem::current_path()) {
+        std::string pattern = (std::filesystem::temp_directory_path() / "skerrand_XXXXXX").string();
+        if (mkdtemp(pattern.data()) != nullptr) path_ = pattern;
+        std::filesystem::current_path(path_);
+    }
+    Scratch_Folder(const Scratch_Folder&) = delete;
+    Scratch_Folder& operator=(const Scratch_Folder&) = delete;
+    ~Scratch_Folder() {
+        std::filesystem::current_path(old_);
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    const std::string& Path() const { return path_; }
+
+    /// A file with that content, its folders with it; a native path.
+    static void Put(const std::string& native, const std::string& content) {
+        const auto folder = std::filesystem::path(native).parent_path();
+        if (!folder.empty()) std::filesystem::create_directories(folder);
+        std::ofstream(native, std::ios::binary) << content;
+    }
+
+  private:
+    std::filesystem::path old_;
+    std::string path_;
+};

@@ -1,0 +1,116 @@
+#include "scenery/catalogue.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "app/settings.h"
+#include "platform/code_page.h"
+
+namespace skerrand {
+namespace {
+
+struct Text_Case {
+    const char* fault;
+    const char* text;
+    std::vector<std::string> titles;
+};
+
+TEST(Catalogue, AreaWithAnothersText) {
+    const std::vector<Text_Case> cases = {
+        {"other line ends not known",
+         "[Area.1]\rTitle=A\n\n\r\n[Area.2]\nTitle=B\r[Area.3]\r\nTitle=C",
+         {"A", "B", "C"}},
+        {"letters' case minded",
+         "[AREA.001]\nTITLE=Alpha\n[aREA.2]\ntitle=Beta",
+         {"Alpha", "Beta"}},
+        {"blanks kept, or tabs taken for blanks", "[Area.1]\nTitle=  A b \t \n", {"A b \t"}},
+        {"key ahead of a blank found", "[Area.1]\nTitle =A\n[Area.2]\nTitle=\n", {"", ""}},
+        {"key in a longer name not found", "[Area.1]\nSubtitle=A\nTitle=B", {"A"}},
+        {"indented head not seen", "  [Area.1]\nTitle=A\n [Area.2]  \nTitle=B", {"A", "B"}},
+        {"head with text behind it seen", "[Area.1]\n[Area.2] x\nTitle=B\n[Area.3]]\n", {"B"}},
+        {"text of a section that is no area taken",
+         "[General]\nTitle=G\n[Area.1]\n[Other]\nTitle=O\n[Area.2]\nTitle=B\n[End]\nTitle=E",
+         {"", "B"}},
+        {"repeated head gets its own text",
+         "[Area.1]\nTitle=A\n[Area.2]\nTitle=B\n[Area.1]\nTitle=C\n[Area.3]\nTitle=D",
+         {"A", "B", "A", "D"}},
+        {"head repeated at once runs on", "[Area.1]\nTitle=A\n[Area.1]\nTitle=B", {"", "A"}},
+        // From [Area.2] to [x] it is 16 characters backwards, so that its text has 18.
+        {"next head ahead of this one measured wrongly",
+         "[Area.1]\nTitle=A\n\n[x]\nTitle=Xyz\n\n[Area.2]\nTitle=Bcdef\n[x]\n",
+         {"A", "Bc"}},
+        {"head inside another line not seen as the first",
+         "Title=0 [Area.2]\n[Area.1]\nTitle=A\n[Area.2]\nTitle=B",
+         {"", "A"}},
+        {"head inside another head not seen as the first",
+         "[[Area.1[]\nTitle=A\n[Area.1[]\nTitle=B",
+         {"", "A"}},
+    };
+    for (const Text_Case& c : cases) {
+        std::vector<std::string> titles;
+        for (const Scenery_Area& area : Parse_Scenery_Cfg(c.text))
+            titles.push_back(area.title);
+        EXPECT_EQ(titles, c.titles) << c.fault;
+    }
+}
+
+TEST(Catalogue, FieldFromAnotherKey) {
+    const std::vector<Scenery_Area> areas = Parse_Scenery_Cfg(
+        "[Area.001]\nLocal=l\nRemote=r\nRequired=q\nLayer=y\nActive=a\nTexture_ID=x\nTitle=t\n");
+    EXPECT_EQ(areas, (std::vector<Scenery_Area>{{"t", "x", "a", "y", "q", "r", "l"}}));
+}
+
+TEST(Catalogue, MoreAreasThanTheirCounterHolds) {
+    std::string text;
+    for (std::size_t i = 0; i <= Most_Areas; ++i) {
+        text += "[Area." + std::to_string(i) + "]\nTitle=" + std::to_string(i) + "\n";
+    }
+    const std::vector<Scenery_Area> areas = Parse_Scenery_Cfg(text);
+    ASSERT_EQ(areas.size(), Most_Areas);
+    EXPECT_EQ(areas.back().title, "32766");
+}
+
+TEST(Catalogue, FolderNotFoundOrLeftAsGiven) {
+    namespace fs = std::filesystem;
+    const fs::path top = fs::path(testing::TempDir()) / "Skerrand_Catalogue";
+    for (const char* folder : {"Scenery", "Add/On/Scenery", "x:/deep/scenery", "x:/x:/scenery"}) {
+        fs::create_directories(top / folder);
+    }
+    fs_root = top.string();
+    struct {
+        std::string value;
+        std::vector<std::string> drives;
+        std::string below_root;  ///< empty: left out
+    } const cases[] = {
+        {"scenery", {}, "\\scenery"},
+        {" Add\\On ", {}, "\\add\\on\\scenery"},
+        {"Add/On/SCENERY", {"c: ", "d:"}, "\\add\\on\\scenery"},
+        {fs_root + "/ADD/on", {}, "\\add\\on\\scenery"},
+        {"nowhere", {}, ""},
+        {"myscenery", {}, ""},
+        {"\\\\Net\\Share\\Deep", {"C: DISK", "X: \\\\NET\\share"}, "\\x:\\deep\\scenery"},
+        {"ab\\AB", {"X: aB"}, "\\x:\\x:\\scenery"},
+        {"", {}, ""},
+    };
+    for (const auto& c : cases) {
+        scenery_areas.assign(1, {});
+        scenery_areas[0].local = c.value;
+        Resolve_Local_Paths(c.drives);
+        std::string found = scenery_areas[0].local;
+        std::string root = platform::Lower_Case(fs_root);
+        // What was given as a whole path has the program's separators all through.
+        if (c.value.starts_with(fs_root)) std::replace(root.begin(), root.end(), '/', '\\');
+        EXPECT_EQ(found, c.below_root.empty() ? "" : root + c.below_root) << c.value;
+    }
+    fs::remove_all(top);
+}
+
+TEST(Catalogue, MissingFileLeavesTheAreasOfAnother) {
+    scenery_areas.assign(3, {});
+    EXPECT_FALSE(Read_Scenery_Cfg(testing::TempDir() + "no_such_scenery.cfg"));
+    EXPECT_TRUE(scenery_areas.empty());
+}
+
+}  // namespace
+}  // namespace skerrand

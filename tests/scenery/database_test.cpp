@@ -1,0 +1,216 @@
+#include "scenery/database.h"
+
+#include <cmath>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <limits>
+
+#include "app/settings.h"
+#include "scenery/tables.h"
+
+namespace skerrand {
+namespace {
+
+using platform::Bytes;
+
+template <typename... Part>
+Bytes Join(Part... parts) {
+    Bytes all;
+    (all.insert(all.end(), parts.begin(), parts.end()), ...);
+    return all;
+}
+
+template <typename Number>
+Bytes Packed(std::initializer_list<Number> numbers) {
+    Bytes bytes(numbers.size() * sizeof(Number));
+    std::memcpy(bytes.data(), std::data(numbers), bytes.size());
+    return bytes;
+}
+
+Bytes Word(int value) {
+    return Packed({static_cast<std::int16_t>(value)});
+}
+Bytes Longs(std::initializer_list<std::int32_t> values) {
+    return Packed(values);
+}
+Bytes Doubles(std::initializer_list<double> values) {
+    return Packed(values);
+}
+Bytes Text(std::string_view text) {
+    return Join(Word(static_cast<int>(text.size())), Bytes(text.begin(), text.end()));
+}
+Bytes Array(std::int32_t size) {
+    return Join(Word(1), Longs({size, 0}));
+}
+
+Bytes Prefix(const Bytes& bytes, std::size_t length) {
+    return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)};
+}
+
+constexpr std::size_t Last_Record = 64;
+
+/// An airport with one of everything, every field different.
+Airport_Info Full_Airport() {
+    return {"Name",
+            "ICAO",
+            1.5,
+            -2.5,
+            "c",
+            "g",
+            "t",
+            "d",
+            "a",
+            "n",
+            "i",
+            {{"9L", "27R", 3, 4, 5, 6, 7, 8, 9, 10, 11}},
+            {{"ILS", 12, 13, 14, "109.5"}},
+            {{15, 16, 17}},
+            {{"GATE 1", 18, 19, 20}},
+            {{21, 22, 23, "B"}}};
+}
+
+std::vector<Airport_Info> Sample() {
+    std::vector<Airport_Info> airports(3, Full_Airport());
+    airports[1] = {};
+    airports[2].icao_id = "caf\xE9";
+    airports[2].taxi_points.resize(3);
+    airports[2].runways.clear();
+    return airports;
+}
+
+TEST(Database, FieldOutOfItsPlace) {
+    const Bytes runways = Join(Array(2), Text("9L"), Text("27R"), Doubles({3, 4, 5, 6}), Longs({7}),
+                               Word(8), Word(9), Longs({10, 11}), Bytes(2 + 2 + 48), Longs({1}));
+    const Bytes ils = Join(Array(2), Text("ILS"), Doubles({12, 13}), Word(14), Text("109.5"),
+                           Bytes(2 + 18 + 2), Longs({1}));
+    const Bytes points = Join(Array(1), Longs({15}), Doubles({16, 17}), Longs({1}));
+    const Bytes parkings = Join(Array(1), Text("GATE 1"), Doubles({18, 19}), Longs({20, 1}));
+    const Bytes paths = Join(Array(1), Longs({21, 22, 23}), Text("B"), Longs({1}));
+    const Bytes expected = Join(Text("Name"), Text("ICAO"), Doubles({1.5, -2.5}), Text("c"),
+                                Text("g"), Text("t"), Text("d"), Text("a"), Text("n"), Text("i"),
+                                runways, ils, points, parkings, paths, Bytes(Last_Record));
+    EXPECT_EQ(Airport_Table_Bytes(std::vector{Full_Airport()}), expected);
+    EXPECT_EQ(Airport_Table_Bytes({}), Bytes(Last_Record));
+    EXPECT_EQ(Airspace_List_Bytes(std::vector<std::string>{"a.bgl"}),
+              Join(Text("a.bgl"), Text("")));
+    EXPECT_EQ(Airspace_List_Bytes({}), Bytes(2));
+}
+
+TEST(Database, CutFileTakenForWhole) {
+    const Bytes whole = Airport_Table_Bytes(Sample());
+    std::vector<Airport_Info> airports;
+    for (std::size_t length = 0; length <= whole.size(); ++length) {
+        const bool expected = length == whole.size() || length == whole.size() - Last_Record;
+        EXPECT_EQ(Parse_Airport_Table(Prefix(whole, length), 3, airports), expected) << length;
+        EXPECT_EQ(airports, expected ? Sample() : std::vector<Airport_Info>()) << length;
+    }
+    const std::vector<std::string> sample = {"one.bgl", "", "three.bgl"};
+    const Bytes list = Airspace_List_Bytes(sample);
+    std::vector<std::string> files;
+    for (std::size_t length = 0; length <= list.size(); ++length) {
+        const bool expected = length == list.size() || length == list.size() - 2;
+        EXPECT_EQ(Parse_Airspace_List(Prefix(list, length), 3, files), expected) << length;
+        EXPECT_EQ(files, expected ? sample : std::vector<std::string>()) << length;
+    }
+}
+
+TEST(Database, CountThatTheFileCannotHold) {
+    const Bytes bytes = Airport_Table_Bytes(Sample());
+    std::vector<Airport_Info> airports;
+    for (const std::int32_t count : {std::numeric_limits<std::int32_t>::min(), -1, 5,
+                                     std::numeric_limits<std::int32_t>::max()}) {
+        EXPECT_FALSE(Parse_Airport_Table(bytes, count, airports)) << count;
+    }
+    for (const std::int32_t count : {2, 4}) {
+        ASSERT_TRUE(Parse_Airport_Table(bytes, count, airports)) << count;
+        std::vector<Airport_Info> expected = Sample();
+        expected.resize(static_cast<std::size_t>(count));
+        EXPECT_EQ(airports, expected) << count;
+    }
+}
+
+TEST(Database, DamageInsideARecordTakenForData) {
+    const Bytes good = Airport_Table_Bytes(std::vector{Full_Airport()});
+    const std::size_t runways = 2 + 4 + 2 + 4 + 16 + 7 * 3;
+    const Bytes no_number = Doubles({std::nan("")});
+    const Bytes infinite = Doubles({std::numeric_limits<double>::infinity()});
+    struct {
+        const char* what;
+        std::size_t at;
+        Bytes bytes;
+    } const cases[] = {
+        {"latitude", 12, no_number},
+        {"longitude", 20, infinite},
+        {"dimensions", runways, Word(2)},
+        {"array without dimensions, but with elements", runways, Word(0)},
+        {"elements but none in use", runways + 2, Longs({1})},
+        {"element too many", runways + 2, Longs({3})},
+        {"negative size", runways + 2, Longs({-2})},
+        {"huge size", runways + 2, Longs({0x7FFFFFFF})},
+        {"lower bound", runways + 6, Longs({1})},
+        {"runway's end", runways + 10 + 9 + 24, infinite},
+        {"count of runways", runways + 10 + 57 + 52, Longs({2})},
+        {"record behind the last", good.size() - Last_Record, Word(63)},
+    };
+    std::vector<Airport_Info> airports;
+    ASSERT_TRUE(Parse_Airport_Table(good, 1, airports));
+    for (const auto& c : cases) {
+        Bytes bad = good;
+        std::copy(c.bytes.begin(), c.bytes.end(), bad.begin() + static_cast<std::ptrdiff_t>(c.at));
+        EXPECT_FALSE(Parse_Airport_Table(bad, 1, airports)) << c.what;
+        EXPECT_TRUE(airports.empty()) << c.what;
+    }
+}
+
+TEST(Database, ChangedByteReadsBackOtherwiseTheSecondTime) {
+    const Bytes good = Airport_Table_Bytes(Sample());
+    std::vector<Airport_Info> airports;
+    std::vector<Airport_Info> again;
+    for (std::size_t at = 0; at < good.size(); ++at) {
+        for (const char change : "\x01\x02\x40\x80\xFF") {
+            Bytes bad = good;
+            bad[at] = static_cast<std::uint8_t>(bad[at] ^ change);
+            if (!Parse_Airport_Table(bad, 3, airports)) continue;
+            ASSERT_TRUE(Parse_Airport_Table(Airport_Table_Bytes(airports), 3, again)) << at;
+            ASSERT_EQ(again, airports) << at;
+        }
+    }
+}
+
+TEST(Database, TextTooLongForItsLengthShiftsTheFieldsBehind) {
+    std::vector<Airport_Info> airports = Sample();
+    airports[0].airport_name.assign(65536, 'x');
+    airports[0].taxi_paths[0].name.assign(70000, 'y');
+    std::vector<Airport_Info> read;
+    ASSERT_TRUE(Parse_Airport_Table(Airport_Table_Bytes(airports), 3, read));
+    airports[0].airport_name.resize(65535);
+    airports[0].taxi_paths[0].name.resize(65535);
+    EXPECT_EQ(read, airports);
+}
+
+TEST(Database, TablesDoNotSurviveTheirFiles) {
+    app_path = testing::TempDir();
+    app_path.pop_back();
+    airport_table = Sample();
+    airport_count = 3;
+    airspace_files = {"a", "b"};
+    airspace_file_count = 2;
+    ASSERT_EQ(Write_Airport_Table(), "");
+    ASSERT_EQ(Write_Airspace_List(), "");
+    Release_Airport_Table();
+    Release_Airspace_Files();
+    EXPECT_TRUE(Read_Airport_Table());
+    EXPECT_TRUE(Read_Airspace_List());
+    EXPECT_EQ(airport_table, Sample());
+    EXPECT_EQ(airspace_files, (std::vector<std::string>{"a", "b"}));
+
+    platform::Delete_File(Own_File(Airports_File));
+    platform::Delete_File(Own_File(Airspaces_File));
+    EXPECT_FALSE(Read_Airport_Table());
+    EXPECT_FALSE(Read_Airspace_List());
+    EXPECT_TRUE(airport_table.empty() && airspace_files.empty());
+    EXPECT_EQ(airport_count, 3);
+}
+
+}  // namespace
+}  // namespace skerrand

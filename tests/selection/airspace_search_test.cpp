@@ -1,0 +1,123 @@
+#include "selection/airspace_search.h"
+
+#include <gtest/gtest.h>
+
+#include "app/settings.h"
+#include "chart/current_chart.h"
+#include "platform/headless/message_box.h"
+#include "scenery/tables.h"
+#include "selection/picks.h"
+#include "tests/scenery/bgl_builder.h"
+
+namespace skerrand {
+namespace {
+
+using namespace bgl;
+
+/// An airspace round the place 45, 45 with its limits and, unless it is null, a frequency's text.
+Bytes Airspace(std::int32_t low, std::int32_t high, const char* facility) {
+    const Bytes bounds = Record(0x1000B, Longs({0, 0, 1 << 24, 1 << 30}));
+    const Bytes start = Record(0x12002, Longs({0, 0, 0, 0, low, high}));
+    const Bytes freq =
+        facility ? Record(0x20001, Join({Longs({0x01243000, 0}), bgl::Text(facility)})) : Bytes();
+    return Record(1, Join({Longs({5, 0}), bounds, start, freq}));
+}
+
+std::string Saved(const char* name, const Bytes& bytes) {
+    const std::string path = testing::TempDir() + "/" + name;
+    EXPECT_EQ(platform::Write_File(path, bytes), "");
+    return path;
+}
+
+class Airspace_Search : public testing::Test {
+  protected:
+    void SetUp() override {
+        first_run = false;
+        database_ready = true;
+        departure_airport = {};
+        departure_airport.lat = departure_airport.lon = 45;
+        destination_airport = departure_airport;
+        platform::headless::Take_Messages();
+    }
+    void TearDown() override { database_ready = false; }
+
+    static void Search(std::vector<std::string> files) {
+        airspace_file_count = static_cast<std::int32_t>(files.size());
+        airspace_files = std::move(files);
+        Search_Airspaces();
+        EXPECT_TRUE(airspace_files.empty());
+    }
+};
+
+TEST_F(Airspace_Search, LadderOfLabelsIsClimbedWrongly) {
+    const struct {
+        std::int32_t low, high;
+        const char* facility;
+        const char* label;
+    } cases[] = {
+        {0, 2500, nullptr, "Airspace Class D"},
+        {2500, 2501, nullptr, "Airspace Class C"},
+        {2501, 0, nullptr, "Airspace Class C"},
+        {4000, 4000, nullptr, "Airspace Class C"},
+        {4000, 4001, nullptr, "Airspace Class B"},
+        {4001, -1, nullptr, "Airspace Class B"},
+        {INT32_MIN, -1, nullptr, "Airspace Class D"},
+        {1000, 2000, "FIR", "ARTCC/FIR"},
+        {9000, 9000, "FIR", "ARTCC/FIR"},
+        {1000, 2000, "", "Airspace Class D"},
+    };
+    Bytes objects;
+    for (const auto& c : cases)
+        objects = Join({objects, Airspace(c.low, c.high, c.facility)});
+    const Bytes section = Record(1, Join({Longs({4, 0}), objects}));
+    departure_airport.approach_freq = "119.1";
+    Search({Saved("ladder.bgl", Image({}, section))});
+
+    ASSERT_EQ(departure_airspaces.size(), std::size(cases) + 1);
+    EXPECT_EQ(destination_airspaces.size(), std::size(cases));
+    for (std::size_t i = 0; i < std::size(cases); ++i)
+        EXPECT_EQ(departure_airspaces[i].class_label, cases[i].label) << i;
+    EXPECT_EQ(departure_airspaces.back().class_label, "TRACON (Departure/Approach)");
+}
+
+TEST_F(Airspace_Search, DiscWithoutFrequencyOrOfAnotherAirport) {
+    departure_airport.departure_freq = "124.3";
+    departure_airport.approach_freq = "118";
+    Search({});
+    EXPECT_TRUE(destination_airspaces.empty());
+    const Airspace_Info& disc = departure_airspaces.at(0);
+    EXPECT_EQ(disc.freq_text, "124.3 Mhz  118 Mhz  ");
+    EXPECT_EQ(disc.low_limit, 0);
+    EXPECT_EQ(disc.high_limit, 10000);
+    ASSERT_EQ(disc.boundary.size(), 2);
+    EXPECT_EQ(disc.boundary[0].lat, 45);
+    EXPECT_EQ(disc.boundary[1].lon, 0);
+    EXPECT_EQ(disc.boundary[1].radius, 20);
+
+    std::swap(departure_airport, destination_airport);
+    destination_airport.departure_freq.clear();
+    current_airspaces.resize(3);
+    Search({});
+    EXPECT_TRUE(departure_airspaces.empty());
+    EXPECT_TRUE(current_airspaces.empty());
+    EXPECT_EQ(destination_airspaces.at(0).freq_text, "118 Mhz  ");
+}
+
+TEST_F(Airspace_Search, UnreadableFileEndsTheSearchOrGoesUntold) {
+    const Bytes sound = Image({}, Record(1, Join({Longs({4, 0}), Airspace(0, 0, nullptr)})));
+    Bytes foreign = sound;
+    foreign[0x76] = 0;
+    const std::string last = Saved("last.bgl", sound);
+    Search({Saved("foreign.bgl", foreign), Saved("short.bgl", Bytes(0x79)), last});
+    EXPECT_TRUE(platform::headless::Take_Messages().empty());
+    Search({"no such 1", last, "no such 2", last});
+    EXPECT_EQ(departure_airspaces.size(), 2);
+    EXPECT_EQ(airspace_file_count, 4);
+    const auto messages = platform::headless::Take_Messages();
+    ASSERT_EQ(messages.size(), 1);
+    EXPECT_EQ(messages[0].text.find("2 of the 4"), 0);
+    EXPECT_NE(messages[0].text.find("no such 1"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace skerrand
