@@ -53,11 +53,6 @@ void Read_Scenery(const std::string& folder) {
     database_ready = true;
 }
 
-void Zoom_To(int rate) {
-    while (chart_view.zoom_rate < rate) Zoom_In();
-    while (chart_view.zoom_rate > rate) Zoom_Out();
-}
-
 void Draw(benchmark::State& state) {
     Zoom_To(static_cast<int>(state.range(0)));
     for (auto _ : state) {
@@ -77,7 +72,8 @@ void Project_Points(benchmark::State& state) {
                 const auto [x, y] = Project(target, lat, lon);
                 sum ^= x ^ y;
             };
-            for (const Taxi_Point& point : current_airport.taxi_points) take(point.lat, point.lon);
+            for (const Taxi_Point& point : current_airport.taxi_points)
+                take(point.lat, point.lon);
             for (const Parking_Info& parking : current_airport.parkings) {
                 take(parking.lat, parking.lon);
             }
@@ -85,32 +81,40 @@ void Project_Points(benchmark::State& state) {
                 take(runway.lat_1, runway.lon_1);
                 take(runway.lat_2, runway.lon_2);
             }
-            for (const Ils_Info& ils : current_airport.ils) take(ils.lat, ils.lon);
+            for (const Ils_Info& ils : current_airport.ils)
+                take(ils.lat, ils.lon);
             benchmark::DoNotOptimize(sum);
         });
     }
 }
 
-std::string Draw_Name(int zoom) { return "chart/draw/" + std::to_string(zoom); }
+std::string Draw_Name(int zoom) {
+    return "chart/draw/" + std::to_string(zoom);
+}
 
 }  // namespace
+
+void Zoom_To(int rate) {
+    while (chart_view.zoom_rate < rate)
+        Zoom_In();
+    while (chart_view.zoom_rate > rate)
+        Zoom_Out();
+}
 
 void Register_Chart() {
     Register("chart/draw", Draw)
         ->DenseRange(Zoom_Farthest, Zoom_Nearest)
         ->Unit(benchmark::kMicrosecond)
-        ->MinTime(0.01)
-        ->Repetitions(5);
-    Register("chart/project", Project_Points)->Unit(benchmark::kMicrosecond)->MinTime(0.01);
+        ->Iterations(20);
+    Register("chart/project", Project_Points)->Unit(benchmark::kMicrosecond);
 }
 
 void Show_Chart(const Folders& folders) {
     Read_Scenery(folders.demo);
-    const auto largest =
-        std::max_element(airport_table.begin(), airport_table.end(),
-                         [](const Airport_Info& one, const Airport_Info& other) {
-                             return Elements_Of(one) < Elements_Of(other);
-                         });
+    const auto largest = std::max_element(airport_table.begin(), airport_table.end(),
+                                          [](const Airport_Info& one, const Airport_Info& other) {
+                                              return Elements_Of(one) < Elements_Of(other);
+                                          });
     if (largest == airport_table.end()) Give_Up("no airport in " + folders.demo);
     departure_airport = *largest;
     destination_airport = *largest;
@@ -129,10 +133,10 @@ void Add_Chart_Rows(const Results& results, double limit, std::vector<Row>& rows
     const std::string title = "draw the chart of " + current_airport.icao_id + ", " +
                               std::to_string(chart_view.screen_width) + " x " +
                               std::to_string(chart_view.screen_height);
-    Row row = Compared(results,
-                       title + ", at zoom " + std::to_string(worst) +
-                           ", the slowest (projecting its points)",
-                       Draw_Name(worst), "chart/project", 0);
+    Row row = Compared(
+        results,
+        title + ", at zoom " + std::to_string(worst) + ", the slowest (projecting its points)",
+        Draw_Name(worst), "chart/project", 0);
     row.target = "at most " + Time_Text(limit);
     row.met = results.Median(Draw_Name(worst)) <= limit;
     rows.push_back(row);

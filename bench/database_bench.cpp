@@ -35,7 +35,7 @@ void Write_Table(benchmark::State& state) {
     airport_table.swap(whole_table);
     for (auto _ : state) {
         malloc_trim(0);
-        Time(state, [&state] {
+        Time(state, Clock::Wall, [&state] {
             if (!Write_Airport_Table().empty()) state.SkipWithError("cannot write");
         });
     }
@@ -52,7 +52,7 @@ void Compose_Table(benchmark::State& state) {
 /// Temporary file, to the disk, renamed.
 void Write_Same_Way(benchmark::State& state) {
     for (auto _ : state) {
-        Time(state, [&state] {
+        Time(state, Clock::Wall, [&state] {
             if (!platform::Write_File(Yardstick_File, file_bytes).empty()) {
                 state.SkipWithError("cannot write");
             }
@@ -63,7 +63,7 @@ void Write_Same_Way(benchmark::State& state) {
 /// Over the old file, and left to the system to bring to the disk.
 void Write_Plain(benchmark::State& state) {
     for (auto _ : state) {
-        Time(state, [&state] {
+        Time(state, Clock::Wall, [&state] {
             const int file = open(Yardstick_File, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
             const ssize_t count = write(file, file_bytes.data(), file_bytes.size());
             if (count != std::ssize(file_bytes) || close(file) != 0) {
@@ -90,7 +90,8 @@ void Read_Plain(benchmark::State& state) {
         malloc_trim(0);
         const std::string path = Own_File(Airports_File);
         std::string native = path;
-        for (char& c : native) c = c == '\\' ? '/' : c;
+        for (char& c : native)
+            c = c == '\\' ? '/' : c;
         Time(state, [&state, &native] {
             const std::unique_ptr<char, decltype(&std::free)> bytes(
                 static_cast<char*>(std::malloc(file_bytes.size())), &std::free);

@@ -46,6 +46,7 @@ void Add_Start_Rows(const Results& results, std::vector<Row>& rows);
 /// inside a handler or ahead of the first event.
 void Register_Chart();
 void Show_Chart(const Folders& folders);
+void Zoom_To(int rate);
 void Add_Chart_Rows(const Results& results, double limit, std::vector<Row>& rows);
 
 /// Runs the benchmarks of a group.

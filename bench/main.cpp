@@ -70,6 +70,7 @@ int main(int argc, char** argv) {
     bench::Results results;
     std::vector<bench::Row> rows;
     Run(choice, results, rows);
+    results.Print_All();
     bench::Print(rows);
     return 0;
 }

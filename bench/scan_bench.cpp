@@ -29,7 +29,7 @@ struct Image {
 
 std::vector<Image> images;
 std::size_t total_bytes = 0;
-std::size_t places = 0;  ///< points and parkings
+std::size_t places = 0;    ///< points and parkings
 std::size_t elements = 0;  ///< points, parkings and runways
 
 void Walk_All() {
@@ -165,10 +165,11 @@ void Add_Scan_Rows(const Results& results, std::vector<Row>& rows) {
                    .value = Time_Text(time),
                    .ratio = Number_Text(100 * time / seconds, 0, " %")};
     };
-    rows.push_back(Compared(
-        results, "read " + Number_Text(static_cast<double>(total_bytes) / 1e6, 1, " MB") +
-                     " of BGL files in memory (copying them)",
-        "scan/walk", "scan/copy", 0));
+    rows.push_back(Compared(results,
+                            "read " +
+                                Number_Text(static_cast<double>(total_bytes) / 1e6, 1, " MB") +
+                                " of BGL files in memory (copying them)",
+                            "scan/walk", "scan/copy", 0));
     rows.push_back({.measure = "  for each point, parking and runway, of " +
                                std::to_string(elements) + " (bytes a second)",
                     .value = Time_Text(each),

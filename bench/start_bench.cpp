@@ -24,18 +24,20 @@ void Load(benchmark::State& state) {
         Release_Airport_Table();
         malloc_trim(0);
         if (!platform::Is_Loaded(form3::window)) state.SkipWithError("no picker");
-        Time(state, [] { platform::headless::Advance(1000); });
+        Time(state, Clock::Wall, [] { platform::headless::Advance(1000); });
         if (platform::Entry_Count(form3::Combo1) == 0) state.SkipWithError("no airport");
     }
 }
 
 }  // namespace
 
-void Register_Start() { Register("start/load", Load); }
+void Register_Start() {
+    Register("start/load", Load);
+}
 
 void Add_Start_Rows(const Results& results, std::vector<Row>& rows) {
-    rows.push_back(Limited("a later start, from the tick to \"Done\"",
-                           results.Median("start/load"), 0.5));
+    rows.push_back(
+        Limited("a later start, from the tick to \"Done\"", results.Median("start/load"), 0.5));
 }
 
 }  // namespace bench

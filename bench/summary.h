@@ -6,33 +6,37 @@
 #include <string_view>
 #include <vector>
 
-/// The closing table of a run: each measure beside its yardstick and its target.
+/// The closing tables of a run: the times of all benchmarks, and each measure beside its yardstick
+/// and its target.
 namespace bench {
 
-/// Shows the benchmarks as they run and keeps their times.
-class Results : public benchmark::ConsoleReporter {
+/// Keeps the times of all repetitions by the names of the benchmarks.
+class Results : public benchmark::BenchmarkReporter {
   public:
-    bool ReportContext(const Context& context) override;
+    bool ReportContext(const Context&) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override;
 
     /// Median of the repetitions, in seconds; 0 for a benchmark that did not run.
     double Median(const std::string& name) const;
 
-    /// Whether a benchmark has reported an error.
-    bool Has_Failed() const { return failed_; }
+    /// Why a benchmark could not run; empty if all could.
+    const std::string& Error() const { return error_; }
+
+    /// Prints fastest, median and slowest repetition of each benchmark.
+    void Print_All() const;
 
   private:
-    std::map<std::string, std::vector<double>> seconds_;
-    bool context_told_ = false;
-    bool failed_ = false;
+    std::map<std::string, std::vector<double>> seconds_;  ///< in rising order
+    std::string error_;
 };
 
+/// A line of the second table.
 struct Row {
     std::string measure;
     std::string value;
     std::string yardstick = {};
     std::string ratio = {};
-    std::string target = {};
+    std::string target = {};  ///< empty: none
     bool met = true;
 };
 
@@ -48,7 +52,6 @@ std::string Time_Text(double seconds);
 
 std::string Number_Text(double number, int decimals, std::string_view unit);
 
-/// Prints the table to standard output.
 void Print(const std::vector<Row>& rows);
 
 }  // namespace bench

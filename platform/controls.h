@@ -32,7 +32,8 @@ bool Is_Checked(Control_Ref control);
 void Set_Transparent(Control_Ref control, bool transparent);
 
 /// Entries of a combo box or list. A sorted one orders all its entries by their bytes after the
-/// addition, so add many at once. The selection stays where it is only if nothing was selected.
+/// addition, so add many at once. The selection is cleared by both; in a combo box its text goes
+/// with it, while a text that was typed or set stays.
 void Clear_Entries(Control_Ref control);
 void Add_Entries(Control_Ref control, std::span<const std::string> entries);
 

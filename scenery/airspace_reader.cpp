@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "scenery/airspace_entries.h"
 #include "scenery/airspace_info.h"
 #include "scenery/bgl_reader.h"
 #include "scenery/bgl_units.h"
@@ -15,10 +16,7 @@ namespace skerrand {
 
 namespace {
 
-constexpr std::int32_t Container_Entry = 1;
-constexpr std::int32_t Passed_Entry = 0x30001;
 constexpr std::int32_t Airspace_Object = 5;
-constexpr std::int64_t Entry_Head = 16;
 
 constexpr std::int32_t Rec_Name = 0x10006;
 constexpr std::int32_t Rec_Bounds = 0x1000B;
@@ -56,9 +54,9 @@ double Longitude_At(std::int64_t pos) {
     return Round_Decimals(Longitude_Degrees(Read_Long(pos)), 1e4);
 }
 
-bool Encloses(const Bounding_Box& box, const Airport_Info& airport) {
-    return box.south < airport.lat && airport.lat < box.north && box.west < airport.lon &&
-           airport.lon < box.east;
+/// Strictly: an airport on an edge is outside.
+bool Spans(double low, double value, double high) {
+    return low < value && value < high;
 }
 
 /// The centre lies half way along the box's diagonal, in whole miles. The magnetic course is taken
@@ -77,19 +75,18 @@ bool Add_Airspace(const Bounding_Box& box, std::vector<Airspace_Info>& table) {
 
 bool Read_Bounds(std::int64_t record, Hits& hits) {
     if (!In_Image(record + 8, 16)) return false;
-    const double south = Latitude_At(record + 8);
-    const double north = Latitude_At(record + 16);
-    const auto in_band = [=](const Airport_Info& airport) { return south < airport.lat && airport.lat < north; };
-    if (!in_band(departure_airport) && !in_band(destination_airport)) return true;
-    const Bounding_Box box{.south = south,
-                           .west = Longitude_At(record + 12),
-                           .north = north,
-                           .east = Longitude_At(record + 20)};
-    if (Encloses(box, departure_airport)) {
+    Bounding_Box box{.south = Latitude_At(record + 8), .north = Latitude_At(record + 16)};
+    const bool at_departure = Spans(box.south, departure_airport.lat, box.north);
+    const bool at_destination = Spans(box.south, destination_airport.lat, box.north);
+    if (!at_departure && !at_destination) return true;
+
+    box.west = Longitude_At(record + 12);
+    box.east = Longitude_At(record + 20);
+    if (at_departure && Spans(box.west, departure_airport.lon, box.east)) {
         if (!Add_Airspace(box, departure_airspaces)) return false;
         hits.departure = true;
     }
-    if (Encloses(box, destination_airport)) {
+    if (at_destination && Spans(box.west, destination_airport.lon, box.east)) {
         if (!Add_Airspace(box, destination_airspaces)) return false;
         hits.destination = true;
     }
@@ -180,7 +177,11 @@ bool Is_Passed(std::int64_t record) {
 void Pass_To_Bounds(std::int64_t& record) {
     while (Is_Passed(record)) {
         const std::int32_t size = Read_Long(record + 4);
-        if (!Step_Over(record, size)) return;
+        // An outline's records are mostly of one size. Stepping by a size that is known already,
+        // the processor need not wait for each record to tell where the next one stands.
+        do {
+            if (!Step_Over(record, size)) return;
+        } while (Is_Passed(record) && Read_Long(record + 4) == size);
     }
 }
 
@@ -211,17 +212,7 @@ bool Read_Content(std::int32_t type, std::int64_t record, std::int32_t size, Hit
 }  // namespace
 
 bool Walk_Airspace_Group(std::int64_t group_offset) {
-    std::int64_t entry = group_offset;
-    for (;;) {
-        if (!Can_Read(entry, 4)) return false;
-        const std::int32_t type = Read_Long(entry);
-        if (type != Container_Entry && type != Passed_Entry) return true;
-        if (!Can_Read(entry + 4, type == Container_Entry ? 8 : 4)) return false;
-        const std::int32_t size = Read_Long(entry + 4);
-        const bool is_object = type == Container_Entry && Read_Long(entry + 8) == Airspace_Object;
-        if (is_object && !Read_Airspace_Object(entry)) return false;
-        if (!Step_Over(entry, size)) return false;
-    }
+    return Walk_Containers(group_offset, Airspace_Object, Read_Airspace_Object);
 }
 
 bool Read_Airspace_Object(std::int64_t object_offset) {

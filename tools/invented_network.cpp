@@ -15,6 +15,7 @@ constexpr int Points_Of_Row = 40;
 constexpr double Row_Spacing = 90;
 constexpr double First_Row = 150;  // from the middle of the airport
 constexpr int Row_Letters = 26;
+constexpr int Parkings_Of_Row = 30;
 
 // A place by its metres along a heading and to the right of it.
 Position Place(const Airport_Facts& airport, double heading, double along, double right) {
@@ -76,8 +77,10 @@ void Invent_Parkings(Random& random, int count, Airport_Facts& airport) {
     const double heading = First_Heading(airport);
     const bool has_gates = count >= 10;
     for (int i = 0; i < count; ++i) {
+        const int row = i / Parkings_Of_Row;
+        const int column = i % Parkings_Of_Row - Parkings_Of_Row / 2;
         Parking_Facts parking;
-        parking.position = Place(airport, heading, 50.0 * (i % 30 - 15), 60 + 40.0 * (i / 30));
+        parking.position = Place(airport, heading, 50 * column, 60 + 40 * row);
         parking.radius_m = static_cast<float>(Between(random, 8, has_gates ? 36 : 14));
         parking.number = i + 1;
         parking.label = has_gates ? Label_Gate_A + i / 12 : Label_Parking;
@@ -88,9 +91,10 @@ void Invent_Parkings(Random& random, int count, Airport_Facts& airport) {
 void Invent_Taxiways(Random& random, int count, Airport_Facts& airport) {
     const double heading = First_Heading(airport);
     for (int i = 0; i < count; ++i) {
-        const double along = Point_Spacing * (i % Points_Of_Row - Points_Of_Row / 2);
-        const double right = First_Row + Row_Spacing * (i / Points_Of_Row);
-        airport.points.push_back(Place(airport, heading, along, right));
+        const int row = i / Points_Of_Row;
+        const int column = i % Points_Of_Row - Points_Of_Row / 2;
+        airport.points.push_back(
+            Place(airport, heading, Point_Spacing * column, First_Row + Row_Spacing * row));
     }
     const int path_count = static_cast<int>(std::lround(count * Paths_Of_Point));
     for (int i = 0; i < path_count; ++i) {

@@ -5,6 +5,7 @@
 #include <QStyleFactory>
 #include <clocale>
 
+#include "platform/desktop/application.h"
 #include "platform/desktop/fonts.h"
 #include "platform/desktop/handlers.h"
 #include "platform/desktop/program_icon.h"
@@ -28,21 +29,29 @@ void Set_Look() {
 
 }  // namespace
 
-int Run(int argc, char** argv, Handler start) {
-    // The toolkit reads no options from the command line either.
-    int arguments = argc > 0 ? 1 : 0;
-    QApplication application(arguments, argv);
+void desktop::Set_Up_Application() {
     // The toolkit takes the user's locale, in which a number may have a decimal comma.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("skerrand"));
-    QApplication::setApplicationDisplayName(QString());
     QGuiApplication::setDesktopFileName(QStringLiteral("skerrand"));
     // A window may close before the next one shows; the end is decided after each handler.
     QApplication::setQuitOnLastWindowClosed(false);
     Set_Look();
+}
 
-    desktop::Reset_Life();
-    desktop::Call(start);
+void desktop::Begin(Handler start) {
+    Destroy_Windows();
+    Reset_Life();
+    const Handler_Scope scope;
+    start();
+}
+
+int Run(int argc, char** argv, Handler start) {
+    // Neither the program nor the toolkit reads options from the command line.
+    int arguments = argc > 0 ? 1 : 0;
+    QApplication application(arguments, argv);
+    desktop::Set_Up_Application();
+    desktop::Begin(start);
     const int status = desktop::Is_Ending() ? 0 : QApplication::exec();
     desktop::Destroy_Windows();
     return status;

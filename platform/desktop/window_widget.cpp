@@ -37,6 +37,7 @@ Window_Widget::Window_Widget(const Window& window) : table(window) {
     canvas = new Canvas(window, this);
     Build_Controls(*this);
     Set_Frame();
+    create();  // Only a native window knows of its frame.
     reported_size = Outer_Pixels();
 }
 
@@ -81,6 +82,7 @@ void Window_Widget::Set_Topmost(bool topmost) {
     is_topmost = topmost;
     if (!was_shown) {
         setWindowFlag(Qt::WindowStaysOnTopHint, topmost);
+        create();
         return;
     }
     // Setting the widget's own flag would take the window from the screen and show it again.

@@ -26,9 +26,9 @@ enum class Call_Kind : std::uint8_t { Line, Ellipse, Rectangle, Arc, Text };
 /// One drawing call. A line's numbers are its two ends, those of a text its point and the place and
 /// length of the text in the picture's `texts`; the others stand as they were passed.
 struct Drawing_Call {
-    Call_Kind kind;
-    std::uint32_t state;  ///< into the picture's `states`
-    std::array<int, 8> numbers;
+    Call_Kind kind{};
+    std::uint32_t state = 0;  ///< into the picture's `states`
+    std::array<int, 8> numbers{};
 };
 
 /// What has been drawn on a target, in order.
@@ -44,18 +44,23 @@ inline std::string_view Text_Of(const Picture& picture, const Drawing_Call& call
                 static_cast<std::size_t>(call.numbers[3]));
 }
 
-/// Forgets the calls and keeps the memory for the next ones.
-void Wipe(Picture& picture);
-
 }  // namespace platform::headless
 
 namespace platform {
 
 struct Device_Context {
     headless::Drawing_State state;
-    int x = 0;  ///< the current position
+    bool state_is_new = true;  ///< no call has been recorded with this state
+    int x = 0;                 ///< the current position
     int y = 0;
     headless::Picture picture;
 };
+
+namespace headless {
+
+/// Forgets the calls, but neither the state nor the memory, which serves the next ones.
+void Wipe(Device_Context& device);
+
+}  // namespace headless
 
 }  // namespace platform

@@ -20,11 +20,11 @@ bool Is_Folder_By_Native_Name(std::string_view utf8) {
     return stat(std::string(utf8).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-void Refuse_Folder() {
-    Message_Box(
-        "The name of this folder has characters that cannot be used. Please choose another "
-        "folder.",
-        Icon::Exclamation, "Skerrand Message");
+void Refuse_Folder(std::string_view utf8) {
+    Message_Box("The folder \"" + From_Utf8_Lossy(utf8) +
+                    "\" cannot be used, because its name holds characters that this program cannot "
+                    "write.",
+                Icon::Exclamation, "Skerrand Message");
 }
 
 }  // namespace
@@ -77,7 +77,7 @@ void Folder_Command(Arguments arguments, Reply& reply) {
     if (!exists) return Fail(reply, "no such folder");
     if (!Takes_Input(list, reply)) return;
     const std::string whole = path ? Whole_Path(*path) : std::string();
-    if (whole.empty()) return Refuse_Folder();
+    if (whole.empty()) return Refuse_Folder(arguments[1]);
     Move_Folder_List(list.Ref(), whole);
 }
 

@@ -67,7 +67,7 @@ double Twips_To_Pixels_Y(double twips) {
 }
 
 void Erase(const Window& window) {
-    if (Form* form = Find_Form(window)) headless::Wipe(form->device.picture);
+    if (Form* form = Find_Form(window)) headless::Wipe(form->device);
 }
 
 void Set_User_Coordinates(const Window& window, double left, double top, double right,

@@ -43,13 +43,13 @@ struct Listing {
 
 bool Is_Current(const Listing& listing, const struct stat& now) {
     const struct stat& then = listing.folder;
-    return listing.settled && then.st_dev == now.st_dev && then.st_ino == now.st_ino &&
+    return then.st_dev == now.st_dev && then.st_ino == now.st_ino &&
            then.st_mtim.tv_sec == now.st_mtim.tv_sec && then.st_mtim.tv_nsec == now.st_mtim.tv_nsec;
 }
 
 Listing Make_Listing(const std::string& native_folder, const struct stat& status) {
     // Two changes within one step of the file system's clock look like one: FAT's steps are two
-    // seconds long, so a folder changed more recently is listed anew the next time.
+    // seconds long, so what is missing in a folder changed more recently is looked for anew.
     constexpr std::time_t coarsest_step = 2;
     Listing listing;
     listing.folder = status;
@@ -88,13 +88,17 @@ std::vector<std::string> Names_In(const std::string& native_folder, Entry_Kind k
 std::string Find_In_Any_Case(const std::string& native_folder, std::string_view name) {
     struct stat status {};
     if (stat(native_folder.c_str(), &status) != 0) return {};
-    auto found = listings.find(native_folder);
-    if (found == listings.end() || !Is_Current(found->second, status)) {
-        if (listings.size() >= most_listings) listings.clear();
-        found = listings.insert_or_assign(native_folder, Make_Listing(native_folder, status)).first;
+    const std::string lower = Lower_Case(name);
+    const auto kept = listings.find(native_folder);
+    if (kept != listings.end() && Is_Current(kept->second, status)) {
+        const auto entry = kept->second.names.find(lower);
+        if (entry != kept->second.names.end()) return entry->second;
+        if (kept->second.settled) return {};
     }
-    const auto entry = found->second.names.find(Lower_Case(name));
-    return entry == found->second.names.end() ? std::string() : entry->second;
+    if (listings.size() >= most_listings) listings.clear();
+    Listing& fresh = listings[native_folder] = Make_Listing(native_folder, status);
+    const auto entry = fresh.names.find(lower);
+    return entry == fresh.names.end() ? std::string() : entry->second;
 }
 
 }  // namespace platform::posix

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace skerrand {
 namespace {
 
@@ -20,12 +22,14 @@ class View : public testing::Test {
 };
 
 TEST_F(View, ProjectionRoundsHalvesAwayFromEven) {
-    EXPECT_EQ(Project(target, 50, -10), (Pixel_Point{0, 0}));
-    EXPECT_EQ(Project(target, 40, 10), (Pixel_Point{200, 50}));
-    EXPECT_EQ(Project(target, 49.5, -9.75), (Pixel_Point{2, 2}));
-    EXPECT_EQ(Project(target, 49.3, -9.65), (Pixel_Point{4, 4}));
-    EXPECT_EQ(Project(target, 60, -30), (Pixel_Point{-200, -50}));
-    EXPECT_EQ(Project(target, 1e300, 1e300), (Pixel_Point{INT32_MAX, INT32_MIN}));
+    // Eight pixels a degree, so that halves are exact.
+    const Chart_Target even{nullptr, 160, 80};
+    EXPECT_EQ(Project(even, 50, -10), (Pixel_Point{0, 0}));
+    EXPECT_EQ(Project(even, 40, 10), (Pixel_Point{160, 80}));
+    EXPECT_EQ(Project(even, 49.6875, -9.6875), (Pixel_Point{2, 2}));
+    EXPECT_EQ(Project(even, 49.5625, -9.5625), (Pixel_Point{4, 4}));
+    EXPECT_EQ(Project(even, 60, -30), (Pixel_Point{-160, -80}));
+    EXPECT_EQ(Project(even, 1e300, 1e300), (Pixel_Point{INT32_MAX, INT32_MIN}));
 }
 
 TEST_F(View, PercentageIsRoundedBeforeItIsUsed) {

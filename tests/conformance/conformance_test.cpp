@@ -314,6 +314,11 @@ TEST_F(Conformance, Only_A_Picked_Entry_Is_A_Selection) {
     EXPECT_EQ(Selected_Index(Combo1), -1);
     Clear_Entries(Combo1);
     EXPECT_EQ(Entry_Count(Combo1), 0);
+    EXPECT_EQ(Text_Of(Combo1), "B");
+    Add_Entries(Combo1, sorted);
+    driver::Pick(Combo1, 1);
+    Clear_Entries(Combo1);
+    EXPECT_EQ(Text_Of(Combo1), "");
 }
 
 TEST_F(Conformance, A_List_Keeps_The_Order_Of_Addition_And_Forgets_Its_Selection_With_Its_Entries) {

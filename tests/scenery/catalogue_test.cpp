@@ -28,6 +28,9 @@ TEST(Catalogue, AreaWithAnothersText) {
         {"key ahead of a blank found", "[Area.1]\nTitle =A\n[Area.2]\nTitle=\n", {"", ""}},
         {"key in a longer name not found", "[Area.1]\nSubtitle=A\nTitle=B", {"A"}},
         {"indented head not seen", "  [Area.1]\nTitle=A\n [Area.2]  \nTitle=B", {"A", "B"}},
+        {"indented head taken for the same without blanks",
+         "[Area.1]\nTitle=A\n  [Area.1]\nTitle=B",
+         {"A", "B"}},
         {"head with text behind it seen", "[Area.1]\n[Area.2] x\nTitle=B\n[Area.3]]\n", {"B"}},
         {"text of a section that is no area taken",
          "[General]\nTitle=G\n[Area.1]\n[Other]\nTitle=O\n[Area.2]\nTitle=B\n[End]\nTitle=E",
@@ -74,7 +77,8 @@ TEST(Catalogue, MoreAreasThanTheirCounterHolds) {
 TEST(Catalogue, FolderNotFoundOrLeftAsGiven) {
     namespace fs = std::filesystem;
     const fs::path top = fs::path(testing::TempDir()) / "Skerrand_Catalogue";
-    for (const char* folder : {"Scenery", "Add/On/Scenery", "x:/deep/scenery", "x:/x:/scenery"}) {
+    for (const char* folder :
+         {"Scenery", "MyScenery/Scenery", "Add/On/Scenery", "x:/deep/scenery", "x:/x:/scenery"}) {
         fs::create_directories(top / folder);
     }
     fs_root = top.string();
@@ -88,7 +92,7 @@ TEST(Catalogue, FolderNotFoundOrLeftAsGiven) {
         {"Add/On/SCENERY", {"c: ", "d:"}, "\\add\\on\\scenery"},
         {fs_root + "/ADD/on", {}, "\\add\\on\\scenery"},
         {"nowhere", {}, ""},
-        {"myscenery", {}, ""},
+        {"myscenery", {}, "\\myscenery\\scenery"},
         {"\\\\Net\\Share\\Deep", {"C: DISK", "X: \\\\NET\\share"}, "\\x:\\deep\\scenery"},
         {"ab\\AB", {"X: aB"}, "\\x:\\x:\\scenery"},
         {"", {}, ""},

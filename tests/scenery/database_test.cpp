@@ -160,6 +160,8 @@ TEST(Database, DamageInsideARecordTakenForData) {
         EXPECT_FALSE(Parse_Airport_Table(bad, 1, airports)) << c.what;
         EXPECT_TRUE(airports.empty()) << c.what;
     }
+    const Bytes only_spare = Join(Bytes(34), Array(1), Bytes(52 + 4 + 4 * 6 + Last_Record));
+    EXPECT_FALSE(Parse_Airport_Table(only_spare, 1, airports));
 }
 
 TEST(Database, ChangedByteReadsBackOtherwiseTheSecondTime) {

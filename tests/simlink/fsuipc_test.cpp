@@ -211,7 +211,7 @@ TEST_F(Open_Batch, LimitIsOffByAByte) {
     EXPECT_TRUE(Queue_Read(0, 0, nullptr, result));
     EXPECT_TRUE(Process_Queue(result));
 
-    // The most requests that fit; each finds its own variable again.
+    // The most requests that fit, and the longest answer.
     std::size_t count = 0;
     while (Queue_Read(0, 0, &bytes[count], result))
         ++count;
@@ -250,6 +250,7 @@ TEST_F(Open_Batch, SpoiltBlockIsTakenOnTrust) {
         {"address of another answer", 32, 1, true, 0, 0x2222},
         {"no address", 12, 0, true, 0x11111111, 0},
         {"longer answer than asked for", 28, 6, true, 0, 0},
+        {"shorter answer than asked for", 28, 1, true, 0, 0x2200},
         {"count up to the block's end", 28, 32768 - 36, false, 0, 0},
         {"count past the block's end", 28, 32768 - 36 + 1, false, 0, 0x2222},
         {"negative count", 8, 0xFFFFFFFF, false, 0x11111111, 0x2222},

@@ -48,8 +48,8 @@ TEST_F(Poll, RawValuesAreConvertedWrongly) {
         {"0xEC6 1800", "2", Unit_Millibars, 0, 0, 0},
         {"0xEC6 FFFF", "4096", Unit_Millibars, 0, 0, 0},
         {"0xEC6 0500", "0.01", Unit_Inches, 0, 0, 0},
-        {"0x564 D69D9800", "0.01", Unit_Inches, 90, 0, 0},
-        {"0x564 2A6267FF", "0.01", Unit_Inches, -90, 0, 0},
+        {"0x564 569D9800", "0.01", Unit_Inches, 90, 0, 0},
+        {"0x564 AA6267FF", "0.01", Unit_Inches, -90, 0, 0},
         {"0x56C 000000C0", "0.01", Unit_Inches, -90, -90, 0},
         {"0x580 000000C0", "0.01", Unit_Inches, -90, -90, -90},
         {"0x580 00000080", "0.01", Unit_Inches, -90, -90, -180},
@@ -76,7 +76,7 @@ TEST_F(Poll, FailureHalfWayLosesTheGoodValuesOrDrawsOrComesBack) {
     const std::string picture = Do("picture Form4");
     const double left = chart_view.view_left;
     follow_aircraft = true;
-    Do("simulator set 0x564 D69D9800");
+    Do("simulator set 0x564 569D9800");
     Do("simulator set 0x580 00000040");
     Do("simulator set 0xEC6 503F");
     Do("simulator reply 0 after 2");

@@ -1,0 +1,184 @@
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "platform/desktop/application.h"
+#include "platform/desktop/entry_combo.h"
+#include "platform/desktop/handlers.h"
+#include "platform/desktop/scale.h"
+#include "platform/desktop/text.h"
+#include "platform/desktop/window_widget.h"
+#include "platform/desktop/windows.h"
+#include "tests/conformance/driver.h"
+
+namespace driver {
+
+namespace {
+
+using namespace platform;
+using desktop::Window_Widget;
+
+QElapsedTimer since_start;
+std::vector<Message> messages;
+int hold = 0;  // milliseconds that a message stands
+
+/// Where the user would press on the control.
+void Press_On(Control_Ref control) {
+    const desktop::Live_Control* live = desktop::Find_Live(control);
+    if (live == nullptr) return;
+    QTest::mouseClick(live->widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+}
+
+QPoint Place_Of_Entry(const QListView& view, int index) {
+    return view.visualRect(view.model()->index(index, 0)).center();
+}
+
+/// Answers a message box that has stood for long enough, as a user who reads it would.
+void Answer() {
+    static QElapsedTimer standing;
+    static const QMessageBox* known = nullptr;
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box != known) standing.start();
+    known = box;
+    if (box == nullptr || standing.elapsed() < hold) return;
+    const Icon icon = box->icon() == QMessageBox::Information ? Icon::Information
+                      : box->icon() == QMessageBox::Warning   ? Icon::Exclamation
+                                                              : Icon::Critical;
+    const QString text = box->text().replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    messages.push_back(
+        {icon, desktop::From_Qt_Lossy(box->windowTitle()), desktop::From_Qt_Lossy(text)});
+    known = nullptr;
+    QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+}
+
+}  // namespace
+
+void Prepare(int& argc, char** argv) {
+    // The tests are listed while building, where there may be no screen.
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    // Both live as long as the process: the toolkit's own statics may still ask for them.
+    static const auto* application = new QApplication(argc, argv);
+    desktop::Set_Up_Application();
+    static auto* answers = new QTimer(QCoreApplication::instance());
+    QObject::connect(answers, &QTimer::timeout, application, Answer);
+    answers->start(10);
+    since_start.start();
+}
+
+void Start(Handler start) {
+    messages.clear();
+    hold = 0;
+    // An earlier program has told the toolkit to leave all loops; leaving one makes it forget that.
+    QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
+    QApplication::exec();
+    desktop::Begin(start);
+    Advance(20);
+}
+
+bool Running() {
+    return !desktop::Is_Ending();
+}
+
+void Advance(int milliseconds) {
+    if (!Running()) return;
+    // A loop of its own, for the end of the application's would be the end of a message box too.
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+long long Clock() {
+    return since_start.elapsed();
+}
+
+void Click(Control_Ref control) {
+    Press_On(control);
+}
+
+void Double_Click(Control_Ref list) {
+    auto* view = static_cast<QListView*>(desktop::Find_Live(list)->widget);
+    const QPoint place = Place_Of_Entry(*view, view->currentIndex().row());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void Pick(Control_Ref list_or_combo, int index) {
+    QWidget* widget = desktop::Find_Live(list_or_combo)->widget;
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+        combo->showPopup();
+        combo->view()->setCurrentIndex(combo->model()->index(index, 0));
+        QTest::keyClick(combo->view(), Qt::Key_Return);
+    } else {
+        auto* view = static_cast<QListView*>(widget);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          Place_Of_Entry(*view, index));
+    }
+}
+
+void Type(Control_Ref combo, const std::string& text) {
+    auto* box = static_cast<desktop::Entry_Combo*>(desktop::Find_Live(combo)->widget);
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box->lineEdit(), desktop::To_Qt(text));
+    QTest::keyClick(box->lineEdit(), Qt::Key_Escape);
+    // The toolkit would pick the entry of that text when the focus goes.
+    QFocusEvent gone(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(box->lineEdit(), &gone);
+}
+
+void Press(const Window& window, Mouse_Button button, int x, int y) {
+    QWidget* canvas = desktop::Find_Window(window)->canvas;
+    const QPoint place = (QPointF(x, y) / canvas->devicePixelRatioF()).toPoint();
+    QWidget* control = canvas->childAt(place);
+    QWidget* hit = control != nullptr ? control : canvas;
+    constexpr Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
+    QTest::mouseClick(hit, buttons[static_cast<int>(button)], Qt::NoModifier,
+                      hit->mapFrom(canvas, place));
+}
+
+void Resize(const Window& window, int client_width, int client_height) {
+    Window_Widget* widget = desktop::Find_Window(window);
+    const QSize frame = widget->size() - widget->canvas->size();
+    widget->resize((QSizeF(client_width, client_height) / widget->devicePixelRatioF()).toSize() +
+                   frame);
+    Advance(20);
+}
+
+void Minimise(const Window& window) {
+    desktop::Find_Window(window)->showMinimized();
+    Advance(20);
+}
+
+void Restore(const Window& window) {
+    Advance(20);  // The news of a minimising may still be on its way.
+    desktop::Find_Window(window)->showNormal();
+    Advance(20);
+}
+
+void Close(const Window& window) {
+    desktop::Find_Window(window)->close();
+}
+
+void Hold_Messages(int milliseconds) {
+    hold = milliseconds;
+}
+
+std::vector<Message> Take_Messages() {
+    return std::exchange(messages, {});
+}
+
+Colour Pixel(const Window& window, int x, int y) {
+    Window_Widget* widget = desktop::Find_Window(window);
+    const QColor colour = widget->canvas->grab().toImage().pixelColor(x, y);
+    return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
+            static_cast<std::uint8_t>(colour.blue())};
+}
+
+}  // namespace driver
