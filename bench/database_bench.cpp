@@ -133,7 +133,7 @@ void Add_Database_Rows(const Results& results, std::vector<Row>& rows) {
                                 " (the same bytes the same way)",
                             "database/write", "database/write_same_way", 3));
     rows.push_back(Compared(results, "  against a plain write, not brought to the disk",
-                            "database/write", "database/write_plain", 0));
+                            "database/write", "database/write_plain", 3));
     rows.push_back(Compared(results, "  of this: composing the bytes (a plain write)",
                             "database/compose", "database/write_plain", 0));
     rows.push_back(Compared(results, "read it back (the same bytes in one call)", "database/read",

@@ -22,6 +22,10 @@ int Pixel_Size(double points) {
     return static_cast<int>(std::lround(points * Logical_Dpi() / Points_To_Inch));
 }
 
+/// Width of the small letters in sizes of the font that the measures were made for; a wider face is
+/// made smaller.
+constexpr double Widest_Alphabet = 13.4;
+
 /// Faces as narrow as the one that the measures were made for, best first.
 QString Default_Family() {
     constexpr std::array Families{
@@ -37,9 +41,14 @@ QString Default_Family() {
 
 QFont Default_Font() {
     static const QString family = Default_Family();
+    const QString alphabet = QStringLiteral("abcdefghijklmnopqrstuvwxyz");
     QFont font(family);
     font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(Pixel_Size(Default_Points));
+    int size = Pixel_Size(Default_Points);
+    const double widest = Widest_Alphabet * size;
+    do {
+        font.setPixelSize(size--);
+    } while (QFontMetrics(font).horizontalAdvance(alphabet) > widest && size > 1);
     return font;
 }
 
@@ -56,7 +65,12 @@ void Condense_To_Fit(QWidget& widget, const QString& text, int width) {
     QFont font = widget.font();
     for (int stretch = 100; stretch >= Least_Stretch; --stretch) {
         font.setStretch(stretch);
-        if (QFontMetrics(font).horizontalAdvance(text) <= width) break;
+        // A letter may reach a little past its advance.
+        const QFontMetrics metrics(font);
+        if (metrics.horizontalAdvance(text) < width &&
+            metrics.boundingRect(text).width() <= width) {
+            break;
+        }
     }
     if (font != widget.font()) widget.setFont(font);
 }

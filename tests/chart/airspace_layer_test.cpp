@@ -26,7 +26,7 @@ class Airspace_Layer : public testing::Test {
     }
 
     std::vector<Call> Draw() {
-        platform::headless::Wipe(device.picture);
+        platform::headless::Wipe(device);
         Draw_Airspaces({&device, 400, 400});
         std::vector<Call> calls;
         for (const auto& call : device.picture.calls)

@@ -122,11 +122,6 @@ keys Down Down Return
 window '^EGLL Chart$'
 picture destination
 
-click "$chart" 110 12
-keys Up Up Return
-window '^Preferences$|^Options$'
-picture preferences
-click "$id" 270 252
 click "$chart" 20 12
 keys Down Return
 window '^Choosing an airport$'

@@ -1,0 +1,59 @@
+// The measures of the windows' tables were made for one font; whatever stands in for it has to fit.
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <gtest/gtest.h>
+
+#include "app/form1.h"
+#include "app/form2.h"
+#include "chart/form4.h"
+#include "platform/desktop/window_widget.h"
+#include "selection/form3.h"
+
+namespace skerrand {
+
+namespace {
+
+using platform::desktop::Window_Widget;
+
+int Needed_Width(const QWidget& widget, const QString& text) {
+    return QFontMetrics(widget.font()).horizontalAdvance(text);
+}
+
+void Expect_Fits(const QWidget& widget, const char* name) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        const QRect room(0, 0, label->width(), 1000);
+        const int flags = label->wordWrap() ? Qt::TextWordWrap : 0;
+        const QRect needed = QFontMetrics(label->font()).boundingRect(room, flags, label->text());
+        EXPECT_LE(needed.width(), label->width()) << name;
+        EXPECT_LE(needed.height(), label->height() + 1) << name;
+    } else if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        EXPECT_LE(Needed_Width(widget, button->text()), widget.width() - 4) << name;
+    } else if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
+        const QLineEdit* line = combo->lineEdit();
+        if (line == nullptr) return;
+        EXPECT_LE(Needed_Width(*line, line->text()), line->width()) << name;
+    }
+}
+
+TEST(Captions, No_Caption_Is_Cut_In_Its_Box) {
+    for (const platform::Window* table :
+         {&form1::window, &form2::window, &form3::window, &form4::window}) {
+        Window_Widget window(*table);
+        window.show();
+        for (const platform::desktop::Live_Control& control : window.controls) {
+            if (control.widget != nullptr) Expect_Fits(*control.widget, control.row->name);
+        }
+        if (window.menu_bar != nullptr) {
+            EXPECT_LE(window.menu_bar->sizeHint().width(), window.width()) << table->name;
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace skerrand
