@@ -107,14 +107,18 @@ void Form_Load() {
     Drive1_Change();
 }
 
-void Option1_Click() { sim_version = Version_FS2002; }
+void Option1_Click() {
+    sim_version = Version_FS2002;
+}
 
 void Drive1_Change() {
     platform::Set_Folder_Path(Dir1, platform::Drive_Name(Drive1));
     Dir1_Change();
 }
 
-void Dir1_Change() { platform::Set_Text(Text1, platform::Folder_Path(Dir1)); }
+void Dir1_Change() {
+    platform::Set_Text(Text1, platform::Folder_Path(Dir1));
+}
 
 /// The root of a drive comes with its separator; it goes, so that paths can be joined with one.
 void Text1_Change() {
@@ -155,9 +159,10 @@ void Command1_Click() {
     fs_root = folder;
     const std::string reason = Save_Settings();
     if (!reason.empty()) {
-        Show_Message("The settings file " + Own_File(Settings_File) + " cannot be written: " +
-                         reason + ". Please make the folder writable, or make room in it, and "
-                                  "press NEXT STEP again.",
+        Show_Message("The settings file " + Own_File(Settings_File) +
+                         " cannot be written: " + reason +
+                         ". Please make the folder writable, or make room in it, and "
+                         "press NEXT STEP again.",
                      platform::Icon::Critical);
         return;
     }

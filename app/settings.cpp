@@ -74,7 +74,9 @@ void Put_Text(platform::Bytes& bytes, const std::string& text) {
 
 }  // namespace
 
-std::string Own_File(const char* name) { return app_path + "\\" + name; }
+std::string Own_File(const char* name) {
+    return app_path + "\\" + name;
+}
 
 bool All_Own_Files_Exist() {
     return std::all_of(Own_Files.begin(), Own_Files.end(),
@@ -82,7 +84,8 @@ bool All_Own_Files_Exist() {
 }
 
 void Delete_Own_Files() {
-    for (const char* name : Own_Files) platform::Delete_File(Own_File(name));
+    for (const char* name : Own_Files)
+        platform::Delete_File(Own_File(name));
 }
 
 bool Parse_Settings(const platform::Bytes& bytes, Settings_Rec& record) {

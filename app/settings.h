@@ -52,9 +52,9 @@ bool Parse_Settings(const platform::Bytes& bytes, Settings_Rec& record);
 /// The record's bytes. A text longer than 65535 bytes is cut there.
 platform::Bytes Settings_Bytes(const Settings_Rec& record);
 
-/// Reads the file into `settings` and takes the simulator's version and folder from it; the sizes of
-/// the tables are the caller's to take. A bare name lies in the working folder. False, with nothing
-/// changed, if the file cannot be read or does not hold a whole record.
+/// Reads the file into `settings` and takes the simulator's version and folder from it; the sizes
+/// of the tables are the caller's to take. A bare name lies in the working folder. False, with
+/// nothing changed, if the file cannot be read or does not hold a whole record.
 bool Load_Settings(const std::string& file);
 
 /// Deletes the three files that live and die together; failures are ignored.

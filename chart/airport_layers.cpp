@@ -15,7 +15,9 @@ namespace {
 constexpr int Ils_Length_Feet = 1800;
 constexpr int Ils_Half_Angle = 5;  // degrees
 
-std::string Heading_Label(std::int16_t heading) { return "  " + std::to_string(heading) + "*"; }
+std::string Heading_Label(std::int16_t heading) {
+    return "  " + std::to_string(heading) + "*";
+}
 
 std::string Runway_Label(const std::string& id, std::int16_t heading) {
     std::string label;

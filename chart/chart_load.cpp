@@ -40,7 +40,8 @@ void Show_First_View() {
     chart_view.view_bottom = -89.9999;
     chart_view.zoom_rate = Zoom_Farthest;
     Center_Airport(current_airport.lon, current_airport.lat);
-    for (int i = 0; i < First_Zoom_Steps; ++i) Zoom_In();
+    for (int i = 0; i < First_Zoom_Steps; ++i)
+        Zoom_In();
     Take_User_Coordinates();
 }
 

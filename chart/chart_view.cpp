@@ -21,12 +21,15 @@ void Shrink_View(double dx, double dy) {
     chart_view.view_bottom += dy;
 }
 
-double Span_X() { return std::abs(chart_view.view_right - chart_view.view_left); }
-double Span_Y() { return std::abs(chart_view.view_bottom - chart_view.view_top); }
+double Span_X() {
+    return std::abs(chart_view.view_right - chart_view.view_left);
+}
+double Span_Y() {
+    return std::abs(chart_view.view_bottom - chart_view.view_top);
+}
 
 void Show_Zoom_Rate() {
-    platform::Set_Caption(form4::Label3,
-                          "ZoomRate: " + std::to_string(chart_view.zoom_rate) + "x");
+    platform::Set_Caption(form4::Label3, "ZoomRate: " + std::to_string(chart_view.zoom_rate) + "x");
     platform::Repaint(form4::Label3);
 }
 
@@ -39,10 +42,9 @@ Chart_Target Screen_Target() {
 
 Pixel_Point Project(const Chart_Target& target, double lat, double lon) {
     const Chart_View& view = chart_view;
-    return {Round_To_Long((lon - view.view_left) / (view.view_right - view.view_left) *
-                          target.width),
-            Round_To_Long((view.view_top - lat) / (view.view_top - view.view_bottom) *
-                          target.height)};
+    return {
+        Round_To_Long((lon - view.view_left) / (view.view_right - view.view_left) * target.width),
+        Round_To_Long((view.view_top - lat) / (view.view_top - view.view_bottom) * target.height)};
 }
 
 std::int32_t Percent(const Chart_Target& target, float percentage) {
@@ -50,9 +52,13 @@ std::int32_t Percent(const Chart_Target& target, float percentage) {
     return Round_To_Long(whole * target.width / 100);
 }
 
-Pixel_Point Geo_To_Screen(double lat, double lon) { return Project(Screen_Target(), lat, lon); }
+Pixel_Point Geo_To_Screen(double lat, double lon) {
+    return Project(Screen_Target(), lat, lon);
+}
 
-std::int32_t Screen_Percent(float percentage) { return Percent(Screen_Target(), percentage); }
+std::int32_t Screen_Percent(float percentage) {
+    return Percent(Screen_Target(), percentage);
+}
 
 bool In_View(double lat, double lon) {
     return chart_view.view_left < lon && lon < chart_view.view_right &&

@@ -13,15 +13,15 @@ struct Device_Context;
 /// axis by its own scale. The picture is stretched with the window; nothing is clamped or clipped.
 namespace skerrand {
 
-inline constexpr std::int16_t Zoom_Farthest = 1;   ///< the whole world
-inline constexpr std::int16_t Zoom_Nearest = 55;   ///< some 230 metres
-inline constexpr std::int16_t Zoom_Airport = 36;   ///< from here on the airport's own layers show
+inline constexpr std::int16_t Zoom_Farthest = 1;  ///< the whole world
+inline constexpr std::int16_t Zoom_Nearest = 55;  ///< some 230 metres
+inline constexpr std::int16_t Zoom_Airport = 36;  ///< from here on the airport's own layers show
 
 struct Chart_View {
-    double view_left = 0;    ///< longitude at the left edge, degrees
-    double view_top = 0;     ///< latitude at the top edge
-    double view_right = 0;   ///< longitude at the right edge; may run past 180
-    double view_bottom = 0;  ///< latitude at the bottom edge; may run past -90
+    double view_left = 0;            ///< longitude at the left edge, degrees
+    double view_top = 0;             ///< latitude at the top edge
+    double view_right = 0;           ///< longitude at the right edge; may run past 180
+    double view_bottom = 0;          ///< latitude at the bottom edge; may run past -90
     std::int32_t screen_width = 0;   ///< pixels across the window's outer frame
     std::int32_t screen_height = 0;  ///< pixels down the window's outer frame
     std::int16_t zoom_rate = Zoom_Farthest;
@@ -38,7 +38,8 @@ struct Pixel_Point {
     friend bool operator==(const Pixel_Point&, const Pixel_Point&) = default;
 };
 
-/// Something a chart is painted on: where the calls go, and how many pixels the view is mapped onto.
+/// Something a chart is painted on: where the calls go, and how many pixels the view is mapped
+/// onto.
 struct Chart_Target {
     platform::Device_Context* device = nullptr;
     std::int32_t width = 0;

@@ -13,7 +13,9 @@ namespace skerrand::form4 {
 
 namespace {
 
-bool Gate_Is_Open() { return platform::Is_Running(Chart_Refresher); }
+bool Gate_Is_Open() {
+    return platform::Is_Running(Chart_Refresher);
+}
 
 void Zoom(void (*step)()) {
     if (!Gate_Is_Open()) return;
@@ -65,17 +67,25 @@ void Center_Airport(double airpt_loc_x, double airpt_loc_y) {
     Start_Timers();
 }
 
-void Command2_Click() { Zoom(Zoom_In); }
+void Command2_Click() {
+    Zoom(Zoom_In);
+}
 
-void Command4_Click() { Zoom(Zoom_Out); }
+void Command4_Click() {
+    Zoom(Zoom_Out);
+}
 
 void Command3_Click() {
     if (Gate_Is_Open()) Center_Airport(current_airport.lon, current_airport.lat);
 }
 
-void dp_airpt_chrt_Click() { Switch_Chart(departure_airport, departure_airspaces); }
+void dp_airpt_chrt_Click() {
+    Switch_Chart(departure_airport, departure_airspaces);
+}
 
-void dst_airpt_chrt_Click() { Switch_Chart(destination_airport, destination_airspaces); }
+void dst_airpt_chrt_Click() {
+    Switch_Chart(destination_airport, destination_airspaces);
+}
 
 void Form_MouseDown(platform::Mouse_Button button, float x, float y) {
     if (Gate_Is_Open() && button == platform::Mouse_Button::Left) {

@@ -43,6 +43,8 @@ void Draw_Chart(const Chart_Target& target) {
     Set_Hollow(target.device, Green);
 }
 
-void Draw_Chart() { Draw_Chart(Screen_Target()); }
+void Draw_Chart() {
+    Draw_Chart(Screen_Target());
+}
 
 }  // namespace skerrand

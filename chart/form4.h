@@ -17,11 +17,11 @@ extern const platform::Control_Ref Chart_Refresher;
 extern const platform::Control_Ref KeyPress_Checker;
 
 /// Handlers that the key poll calls too.
-void Command2_Click();       ///< "+": one zoom step in, and redraw
-void Command3_Click();       ///< "C": back to the airport
-void Command4_Click();       ///< "-": one zoom step out, and redraw
-void dp_airpt_chrt_Click();  ///< the departure airport's chart
-void dst_airpt_chrt_Click(); ///< the destination airport's chart
+void Command2_Click();        ///< "+": one zoom step in, and redraw
+void Command3_Click();        ///< "C": back to the airport
+void Command4_Click();        ///< "-": one zoom step out, and redraw
+void dp_airpt_chrt_Click();   ///< the departure airport's chart
+void dst_airpt_chrt_Click();  ///< the destination airport's chart
 
 /// Moves the view's centre to a place in degrees and redraws. Leaves both timers running.
 void Center_Airport(double airpt_loc_x, double airpt_loc_y);

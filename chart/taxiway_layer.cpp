@@ -49,17 +49,15 @@ std::optional<Path_Ends> Ends_Of(const Taxi_Path& path, const Path_Ends& before)
 Place Middle_Of(const Path_Ends& ends) {
     const auto [start, end] = ends;
     const std::int16_t feet = Distance_Feet(start.lat, start.lon, end.lat, end.lon);
-    const std::int16_t course =
-        Magnetic_To_True(Magnetic_Course(start.lat, start.lon, end.lat, end.lon), start.lat,
-                         start.lon);
+    const std::int16_t course = Magnetic_To_True(
+        Magnetic_Course(start.lat, start.lon, end.lat, end.lon), start.lat, start.lon);
     const Fix_Point middle =
         Destination_Feet(start.lat, start.lon, course, Round_To_Integer(feet / 2.0));
     return {middle.lat, middle.lon};
 }
 
 bool Has_Label(const Taxi_Path& path) {
-    return show_taxiway_ids && path.kind == Path_Taxiway && !path.name.empty() &&
-           path.name != " ";
+    return show_taxiway_ids && path.kind == Path_Taxiway && !path.name.empty() && path.name != " ";
 }
 
 }  // namespace

@@ -2,8 +2,8 @@
 
 #include "platform/window.h"
 
-/// Timers of windows. They tick one after the other, never inside a handler, and not while a message
-/// box stands: what falls due meanwhile is dropped.
+/// Timers of windows. They tick one after the other, never inside a handler, and not while a
+/// message box stands: what falls due meanwhile is dropped.
 namespace platform {
 
 /// Starts the interval anew, unless the timer runs already: then nothing changes.

@@ -18,17 +18,17 @@ enum class Boundary_Kind : std::uint8_t {
 
 struct Boundary_Point {
     Boundary_Kind kind = Boundary_Kind::Point_Start;
-    double lat = 0, lon = 0;   ///< 0 in a circle
-    std::int32_t radius = 0;   ///< nautical miles, only in a circle
+    double lat = 0, lon = 0;  ///< 0 in a circle
+    std::int32_t radius = 0;  ///< nautical miles, only in a circle
 };
 
 struct Airspace_Info {
     std::vector<Boundary_Point> boundary;  ///< the outline in the order of the file
     double center_lat = 0, center_lon = 0;
-    std::int32_t low_limit = 0;   ///< as stored in the file
+    std::int32_t low_limit = 0;  ///< as stored in the file
     std::int32_t high_limit = 0;
-    std::string freq_text;      ///< each frequency as its number, " Mhz" and two blanks
-    std::string class_label;    ///< one of the texts that the search gives
+    std::string freq_text;    ///< each frequency as its number, " Mhz" and two blanks
+    std::string class_label;  ///< one of the texts that the search gives
     std::string name;
     std::string facility_text;  ///< text of the last frequency record
 };

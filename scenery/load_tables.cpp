@@ -23,7 +23,8 @@ void Fill_Lists() {
     form3::Set_Status("Adding Airports to List...");
     std::vector<std::string> entries;
     entries.reserve(airport_table.size());
-    for (const Airport_Info& airport : airport_table) entries.push_back(List_Entry(airport));
+    for (const Airport_Info& airport : airport_table)
+        entries.push_back(List_Entry(airport));
     platform::Add_Entries(form3::Combo1, entries);
     platform::Add_Entries(form3::Combo2, entries);
 }

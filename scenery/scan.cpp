@@ -81,8 +81,7 @@ void Count_Files() {
     bgl_total = 0;
     for (const Scenery_Area& area : scenery_areas) {
         if (area.local.empty()) continue;
-        bgl_total +=
-            static_cast<std::int32_t>(platform::File_Names(area.local, Bgl_Ending).size());
+        bgl_total += static_cast<std::int32_t>(platform::File_Names(area.local, Bgl_Ending).size());
     }
 }
 

@@ -91,15 +91,16 @@ constexpr platform::Control_Ref Command2 = Find_Control(window, "Command2");
 constexpr platform::Control_Ref Command3 = Find_Control(window, "Command3");
 constexpr platform::Control_Ref Drive1 = Find_Control(window, "Drive1");
 constexpr platform::Control_Ref ProgressBar1 = Find_Control(window, "ProgressBar1");
-constexpr platform::Control_Ref Read_Sceneries_Paths =
-    Find_Control(window, "Read_Sceneries_Paths");
+constexpr platform::Control_Ref Read_Sceneries_Paths = Find_Control(window, "Read_Sceneries_Paths");
 constexpr platform::Control_Ref Scan_Bgls = Find_Control(window, "Scan_Bgls");
 
 namespace {
 
 constexpr platform::Control_Ref Text1 = Find_Control(window, "Text1");
 
-void Form_Load() { platform::Start_Timer(Read_Sceneries_Paths); }
+void Form_Load() {
+    platform::Start_Timer(Read_Sceneries_Paths);
+}
 
 void Command2_Click() {
     Set_Status("Please wait...");

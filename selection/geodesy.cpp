@@ -108,8 +108,7 @@ std::int16_t Magnetic_Course(double lat1, double lon1, double lat2, double lon2)
     if (angle != 0) {
         const double quotient = (std::sin(north2) - std::sin(north1) * std::cos(angle)) /
                                 (std::sin(angle) * std::cos(north1));
-        course =
-            std::sin(east2 - east1) < 0 ? Arc_Cos(quotient) : Two_Pi - Arc_Cos(quotient);
+        course = std::sin(east2 - east1) < 0 ? Arc_Cos(quotient) : Two_Pi - Arc_Cos(quotient);
     }
     const int clockwise = 360 - Round_To_Long(std::floor(course * Radians_To_Degrees));
     return True_To_Magnetic(Wrap_Degrees(clockwise), lat1, lon1);

@@ -19,8 +19,12 @@ Integer Round_To(double value) {
     return static_cast<Integer>(rounded);
 }
 
-inline std::int32_t Round_To_Long(double value) { return Round_To<std::int32_t>(value); }
-inline std::int16_t Round_To_Integer(double value) { return Round_To<std::int16_t>(value); }
+inline std::int32_t Round_To_Long(double value) {
+    return Round_To<std::int32_t>(value);
+}
+inline std::int16_t Round_To_Integer(double value) {
+    return Round_To<std::int16_t>(value);
+}
 
 /// To a number of decimals given as its power of ten: 1e6 for six.
 inline double Round_Decimals(double value, double power) {

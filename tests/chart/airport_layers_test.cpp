@@ -44,9 +44,8 @@ class Airport_Layers : public testing::Test {
 };
 
 TEST_F(Airport_Layers, ParkingOutsideTheViewOrOnItsBound) {
-    current_airport.parkings = {{"GATE A 1", 0.005, 0, 50},
-                                {"BOUND", 0.01, 0, 50},
-                                {"OUT", 0, -0.0101, 5000}};
+    current_airport.parkings = {
+        {"GATE A 1", 0.005, 0, 50}, {"BOUND", 0.01, 0, 50}, {"OUT", 0, -0.0101, 5000}};
     EXPECT_EQ(Drawn(Draw_Parkings),
               (Lines{"ellipse 196 104 204 96 | solid 1 128,64,64 | solid 128,64,64",
                      "text 200 100 GATE A 1 | 0,0,0"}));
@@ -87,8 +86,8 @@ TEST_F(Airport_Layers, RunwayLabelsOfAllFlags) {
         {"18L", "36R", 0.02, 0, -0.02, 0, 0, 176, 356, 6000, 150},
     };
     const std::string line = "line 200 -200 200 600 | solid 1 0,192,0";
-    EXPECT_EQ(Drawn(Draw_Runways), (Lines{line, "text 200 -200 18L  176* | 0,0,0",
-                                          "text 200 600 36R  356* | 0,0,0"}));
+    EXPECT_EQ(Drawn(Draw_Runways),
+              (Lines{line, "text 200 -200 18L  176* | 0,0,0", "text 200 600 36R  356* | 0,0,0"}));
     show_runway_ids = false;
     EXPECT_EQ(Drawn(Draw_Runways),
               (Lines{line, "text 200 -200   176* | 0,0,0", "text 200 600   356* | 0,0,0"}));

@@ -1,8 +1,7 @@
 #include "chart/chart_view.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 
 namespace skerrand {
 namespace {
@@ -42,19 +41,23 @@ TEST_F(View, PercentageIsRoundedBeforeItIsUsed) {
 
 TEST_F(View, ZoomDriftsOrPassesItsEnds) {
     const Chart_View before = chart_view;
-    for (int i = 0; i < 8; ++i) Zoom_In();
+    for (int i = 0; i < 8; ++i)
+        Zoom_In();
     EXPECT_EQ(chart_view.zoom_rate, 38);
     EXPECT_NEAR(chart_view.view_right - chart_view.view_left, 20 * std::pow(0.8, 8), 1e-12);
-    for (int i = 0; i < 8; ++i) Zoom_Out();
+    for (int i = 0; i < 8; ++i)
+        Zoom_Out();
     EXPECT_NEAR(chart_view.view_left, before.view_left, 1e-12);
     EXPECT_NEAR(chart_view.view_top, before.view_top, 1e-12);
 
-    for (int i = 0; i < 100; ++i) Zoom_In();
+    for (int i = 0; i < 100; ++i)
+        Zoom_In();
     EXPECT_EQ(chart_view.zoom_rate, 55);
     const double left = chart_view.view_left;
     Zoom_In();
     EXPECT_EQ(chart_view.view_left, left);
-    for (int i = 0; i < 100; ++i) Zoom_Out();
+    for (int i = 0; i < 100; ++i)
+        Zoom_Out();
     EXPECT_EQ(chart_view.zoom_rate, 1);
 }
 

@@ -81,6 +81,10 @@ TEST(Catalogue, FolderNotFoundOrLeftAsGiven) {
          {"Scenery", "MyScenery/Scenery", "Add/On/Scenery", "x:/deep/scenery", "x:/x:/scenery"}) {
         fs::create_directories(top / folder);
     }
+    // A relative value is looked for in the working folder first.
+    const fs::path before = fs::current_path();
+    fs::create_directories(top / "empty");
+    fs::current_path(top / "empty");
     fs_root = top.string();
     struct {
         std::string value;
@@ -107,6 +111,7 @@ TEST(Catalogue, FolderNotFoundOrLeftAsGiven) {
         if (c.value.starts_with(fs_root)) std::replace(root.begin(), root.end(), '/', '\\');
         EXPECT_EQ(found, c.below_root.empty() ? "" : root + c.below_root) << c.value;
     }
+    fs::current_path(before);
     fs::remove_all(top);
 }
 

@@ -14,8 +14,12 @@ Airport_Info Named(const char* name, const char* id) {
 
 TEST(Picker, EqualEntriesTakeTheFirstOrAnotherAirport) {
     const std::vector<Airport_Info> table = {
-        Named("Field", "AAAA"),   Named("Field (AAAA)", ""), Named("Field", "AAAA"),
-        Named("Field", "aaaa"),   Named("", ""),             Named("Field (", "AAAA)"),
+        Named("Field", "AAAA"),
+        Named("Field (AAAA)", ""),
+        Named("Field", "AAAA"),
+        Named("Field", "aaaa"),
+        Named("", ""),
+        Named("Field (", "AAAA)"),
         Named("Field (A", "AA)"),
     };
     const auto place = [&](const char* text) { return Find_Picks(table, text, "").departure; };

@@ -177,7 +177,7 @@ TEST_F(Transport, Leftover_Block_Stands_In_The_Way_Or_One_In_Use_Does_Not) {
     }));
     const platform::Mapping_Handle mine = platform::CreateFileMappingA(0x8000, name.c_str());
     ASSERT_NE(mine, 0U);
-    EXPECT_EQ(platform::GetLastError(), 0U);
+    ASSERT_EQ(platform::GetLastError(), 0U);
     std::uint8_t* const view = platform::MapViewOfFile(mine);
     ASSERT_NE(view, nullptr);
     EXPECT_EQ(std::count(view, view + 0x8000, 0), 0x8000);
