@@ -1,5 +1,6 @@
 #include "scenery/load_tables.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -18,16 +19,6 @@
 namespace skerrand {
 
 namespace {
-
-void Fill_Lists() {
-    form3::Set_Status("Adding Airports to List...");
-    std::vector<std::string> entries;
-    entries.reserve(airport_table.size());
-    for (const Airport_Info& airport : airport_table)
-        entries.push_back(List_Entry(airport));
-    platform::Add_Entries(form3::Combo1, entries);
-    platform::Add_Entries(form3::Combo2, entries);
-}
 
 void Stand_Ready() {
     form3::Set_Status(form3::Done);
@@ -95,6 +86,17 @@ std::string Write_Files() {
 }
 
 }  // namespace
+
+void Fill_Lists() {
+    form3::Set_Status("Adding Airports to List...");
+    std::vector<std::string> entries;
+    entries.reserve(airport_table.size());
+    for (const Airport_Info& airport : airport_table)
+        entries.push_back(List_Entry(airport));
+    std::sort(entries.begin(), entries.end());  // once for the two lists, which are sorted
+    platform::Add_Entries(form3::Combo1, entries);
+    platform::Add_Entries(form3::Combo2, entries);
+}
 
 void Read_Sceneries_Paths_Timer() {
     form3::Set_Input_Enabled(false);

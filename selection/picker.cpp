@@ -1,5 +1,8 @@
 #include "selection/picker.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "chart/form4.h"
 #include "platform/controls.h"
 #include "scenery/tables.h"
@@ -16,13 +19,28 @@ std::vector<Airspace_Info> destination_airspaces;
 
 namespace {
 
+constexpr std::string_view Id_Opening = " (";
+
 /// Whether the airport's list entry is `text`, without building the entry.
 bool Is_Entry(const Airport_Info& airport, std::string_view text) {
     const std::size_t name = airport.airport_name.size();
     const std::size_t id = airport.icao_id.size();
     return text.size() == name + id + 3 && text.substr(0, name) == airport.airport_name &&
-           text.substr(name, 2) == " (" && text.substr(name + 2, id) == airport.icao_id &&
+           text.substr(name, 2) == Id_Opening && text.substr(name + 2, id) == airport.icao_id &&
            text.back() == ')';
+}
+
+/// The lengths that the name in one of two entries can have: up to a bracket that may be the one
+/// ahead of the id. The pass over the table then needs no more of most airports than one number.
+std::vector<bool> Possible_Name_Lengths(std::string_view departure, std::string_view destination) {
+    std::vector<bool> possible(std::max(departure.size(), destination.size()));
+    for (const std::string_view entry : {departure, destination}) {
+        for (auto at = entry.find(Id_Opening); at != std::string_view::npos;
+             at = entry.find(Id_Opening, at + 1)) {
+            possible[at] = true;
+        }
+    }
+    return possible;
 }
 
 void Take_Picks(int departure_index, int destination_index) {
@@ -41,13 +59,19 @@ void Take_Picks(int departure_index, int destination_index) {
 std::string List_Entry(const Airport_Info& airport) {
     std::string entry;
     entry.reserve(airport.airport_name.size() + airport.icao_id.size() + 3);
-    return entry.append(airport.airport_name).append(" (").append(airport.icao_id).append(")");
+    return entry.append(airport.airport_name)
+        .append(Id_Opening)
+        .append(airport.icao_id)
+        .append(")");
 }
 
 Found_Picks Find_Picks(std::span<const Airport_Info> table, std::string_view departure,
                        std::string_view destination) {
+    const std::vector<bool> possible = Possible_Name_Lengths(departure, destination);
     Found_Picks found;
     for (std::size_t i = 0; i < table.size(); ++i) {
+        const std::size_t length = table[i].airport_name.size();
+        if (length >= possible.size() || !possible[length]) continue;
         if (Is_Entry(table[i], departure)) found.departure = static_cast<std::ptrdiff_t>(i);
         if (Is_Entry(table[i], destination)) found.destination = static_cast<std::ptrdiff_t>(i);
     }

@@ -1,5 +1,6 @@
 #include "tools/simulator/shared_block.h"
 
+#include <cstring>
 #include <fcntl.h>
 #include <string_view>
 #include <sys/mman.h>
@@ -20,6 +21,19 @@ int Open(const std::string& name) {
     return shm_open(path.c_str(), O_RDWR, 0);
 }
 
+/// Up to the mark behind the last request; writing all of the block costs as much as the rest of an
+/// exchange.
+std::size_t Used_Bytes(const Shared_Block::Bytes& bytes) {
+    constexpr std::size_t Read_Head = 16, Write_Head = 12;
+    for (std::size_t at = 0; at + Read_Head <= bytes.size();) {
+        std::array<std::uint32_t, 3> head;  // kind, offset, count of bytes
+        std::memcpy(head.data(), &bytes[at], sizeof head);
+        if (head[0] == 0) return at + sizeof head[0];
+        at += (head[0] == 1 ? Read_Head : Write_Head) + std::size_t{head[2]};
+    }
+    return bytes.size();
+}
+
 }  // namespace
 
 Shared_Block::Shared_Block(const std::string& name) : file_(Open(name)) {}
@@ -36,7 +50,8 @@ bool Shared_Block::Read(Bytes& bytes) const {
 }
 
 bool Shared_Block::Write(const Bytes& bytes) const {
-    return pwrite(file_.Get(), bytes.data(), Block_Size, 0) == static_cast<ssize_t>(Block_Size);
+    const std::size_t used = Used_Bytes(bytes);
+    return pwrite(file_.Get(), bytes.data(), used, 0) == static_cast<ssize_t>(used);
 }
 
 }  // namespace simulator

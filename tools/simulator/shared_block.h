@@ -21,8 +21,10 @@ class Shared_Block {
     /// Opens a block of this link that belongs to this user; any other counts as not there.
     explicit Shared_Block(const std::string& name);
 
-    /// Both are false if the block is not there or not of its full size.
+    /// False if the block is not there or not of its full size.
     bool Read(Bytes& bytes) const;
+
+    /// Gives the client its requests back, as far as they reach. False on failure.
     bool Write(const Bytes& bytes) const;
 
   private:

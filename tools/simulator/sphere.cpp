@@ -46,8 +46,10 @@ Vector Rotate(const Vector& a, const Vector& axis, double angle) {
 }
 
 double Angle_About(const Vector& axis, const Vector& a, const Vector& b) {
-    const double across = Dot(axis, Cross(a, b));
-    return std::atan2(across, Dot(a, b) - Dot(axis, a) * Dot(axis, b));
+    // From the axis on, since on a small circle `a` and `b` themselves hardly differ from it.
+    const Vector u = a - axis;
+    const Vector v = b - axis;
+    return std::atan2(Dot(axis, Cross(u, v)), Dot(u, v) - Dot(axis, u) * Dot(axis, v));
 }
 
 Vector Point_Of(const Place& place) {
