@@ -1,6 +1,7 @@
 #include <array>
 #include <cstdlib>
 #include <filesystem>
+#include <sched.h>
 #include <string>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -80,6 +81,14 @@ void Exchange_Batch(benchmark::State& state) {
     }
 }
 
+/// Both ends on one processor: on several it is chance where a process wakes up, and behind whom.
+void Stay_On_One_Processor() {
+    cpu_set_t one;
+    CPU_ZERO(&one);
+    CPU_SET(static_cast<unsigned>(sched_getcpu()), &one);
+    sched_setaffinity(0, sizeof one, &one);
+}
+
 void Open() {
     std::int32_t result = 0;
     for (int tries = 0; tries < 100; ++tries) {
@@ -99,6 +108,7 @@ int main(int argc, char** argv) {
     if (mkdtemp(folder.data()) == nullptr) bench::Give_Up("no folder for the socket");
     setenv("XDG_RUNTIME_DIR", folder.c_str(), 1);
 
+    Stay_On_One_Processor();
     const std::array<int, 2> bytes = Connected_Pair();
     const pid_t sender = In_Child(bytes, Send_Back);
     echo = bytes[1];

@@ -1,7 +1,7 @@
 #include "selection/picker.h"
 
 #include <algorithm>
-#include <vector>
+#include <cstdint>
 
 #include "chart/form4.h"
 #include "platform/controls.h"
@@ -21,23 +21,27 @@ namespace {
 
 constexpr std::string_view Id_Opening = " (";
 
-/// Whether the airport's list entry is `text`, without building the entry.
+/// Whether the airport's list entry is `text`, without building the entry. The id tells most
+/// airports apart, and lies nearer in memory than a long name.
 bool Is_Entry(const Airport_Info& airport, std::string_view text) {
     const std::size_t name = airport.airport_name.size();
     const std::size_t id = airport.icao_id.size();
-    return text.size() == name + id + 3 && text.substr(0, name) == airport.airport_name &&
-           text.substr(name, 2) == Id_Opening && text.substr(name + 2, id) == airport.icao_id &&
-           text.back() == ')';
+    return text.size() == name + id + 3 && text.substr(name + 2, id) == airport.icao_id &&
+           text.substr(name, 2) == Id_Opening && text.back() == ')' &&
+           text.substr(0, name) == airport.airport_name;
 }
 
-/// The lengths that the name in one of two entries can have: up to a bracket that may be the one
-/// ahead of the id. The pass over the table then needs no more of most airports than one number.
-std::vector<bool> Possible_Name_Lengths(std::string_view departure, std::string_view destination) {
-    std::vector<bool> possible(std::max(departure.size(), destination.size()));
+constexpr std::size_t Longest_Told_Apart = 63;
+
+/// A bit for each length that the name in one of the entries can have, up to a bracket that may be
+/// the one ahead of the id; the last bit stands for all longer ones too. With it the pass over the
+/// table needs no more of most airports than one number, and no branch that is hard to foretell.
+std::uint64_t Possible_Name_Lengths(std::string_view departure, std::string_view destination) {
+    std::uint64_t possible = 0;
     for (const std::string_view entry : {departure, destination}) {
         for (auto at = entry.find(Id_Opening); at != std::string_view::npos;
              at = entry.find(Id_Opening, at + 1)) {
-            possible[at] = true;
+            possible |= std::uint64_t{1} << std::min(at, Longest_Told_Apart);
         }
     }
     return possible;
@@ -67,11 +71,11 @@ std::string List_Entry(const Airport_Info& airport) {
 
 Found_Picks Find_Picks(std::span<const Airport_Info> table, std::string_view departure,
                        std::string_view destination) {
-    const std::vector<bool> possible = Possible_Name_Lengths(departure, destination);
+    const std::uint64_t possible = Possible_Name_Lengths(departure, destination);
     Found_Picks found;
     for (std::size_t i = 0; i < table.size(); ++i) {
-        const std::size_t length = table[i].airport_name.size();
-        if (length >= possible.size() || !possible[length]) continue;
+        const std::size_t length = std::min(table[i].airport_name.size(), Longest_Told_Apart);
+        if ((possible >> length & 1) == 0) continue;
         if (Is_Entry(table[i], departure)) found.departure = static_cast<std::ptrdiff_t>(i);
         if (Is_Entry(table[i], destination)) found.destination = static_cast<std::ptrdiff_t>(i);
     }

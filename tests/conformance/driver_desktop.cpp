@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <gtest/gtest.h>
 
 #include "platform/desktop/application.h"
 #include "platform/desktop/entry_combo.h"
@@ -60,10 +61,8 @@ void Answer() {
 }  // namespace
 
 void Prepare(int& argc, char** argv) {
-    // The tests are listed while building, where there may be no screen.
-    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    // Tests are listed while building, where there may be no screen.
+    if (GTEST_FLAG_GET(list_tests)) return;
     // Both live as long as the process: the toolkit's own statics may still ask for them.
     static const auto* application = new QApplication(argc, argv);
     desktop::Set_Up_Application();

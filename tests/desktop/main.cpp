@@ -5,7 +5,9 @@
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    // No test here looks at a real screen, and there may be none where the tests are listed.
+    // Tests are listed while building, where the toolkit may lack what it needs.
+    if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
+    // No test here looks at a real screen.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     platform::desktop::Set_Up_Application();
