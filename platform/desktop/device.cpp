@@ -9,7 +9,7 @@ namespace {
 void Set_Pen(Device_Context& device) {
     const Colour colour = device.pen_colour;
     QPen pen(QColor(colour.red, colour.green, colour.blue));
-    pen.setWidthF(std::max(1, device.pen_width) * device.pen_scale);
+    pen.setWidthF(Pen_Pixels(device));
     pen.setCapStyle(Qt::FlatCap);
     pen.setJoinStyle(Qt::MiterJoin);
     device.painter.setPen(pen);
@@ -17,6 +17,12 @@ void Set_Pen(Device_Context& device) {
 }
 
 }  // namespace
+
+double Pen_Pixels(const Device_Context& device) {
+    // A limit far above any use: what lies outside is cut off at the pen's width from the picture.
+    constexpr int Widest = 256;
+    return std::clamp(device.pen_width, 1, Widest) * device.pen_scale;
+}
 
 QPainter* Open_Painter(Device_Context* device) {
     if (device == nullptr || device->target == nullptr) return nullptr;

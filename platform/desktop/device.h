@@ -39,6 +39,9 @@ struct Device_Context {
 
 namespace platform::desktop {
 
+/// The pen's width in pixels of the target; 1 at least.
+double Pen_Pixels(const Device_Context& device);
+
 /// The painter with the device's state, ready to draw; null if nothing can be drawn.
 QPainter* Open_Painter(Device_Context* device);
 

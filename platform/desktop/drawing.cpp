@@ -1,13 +1,8 @@
 #include "platform/drawing.h"
 
-#include <algorithm>
-#include <cmath>
-#include <numbers>
-
 #include "platform/desktop/device.h"
 #include "platform/desktop/shapes.h"
 #include "platform/desktop/strokes.h"
-#include "platform/desktop/text.h"
 #include "platform/desktop/window_widget.h"
 #include "platform/desktop/windows.h"
 

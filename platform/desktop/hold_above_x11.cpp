@@ -1,6 +1,7 @@
 #include <QGuiApplication>
 #include <QWindow>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <xcb/xcb.h>
 

@@ -73,8 +73,8 @@ int Make(const std::string& path) {
     return -1;
 }
 
-Mapping_Handle Keep(int file, std::string own_path) {
-    blocks.try_emplace(++last_handle, file, std::move(own_path));
+Mapping_Handle Keep(int file, const std::string& own_path) {
+    blocks.try_emplace(++last_handle, file, own_path);
     return last_handle;
 }
 

@@ -17,7 +17,7 @@ constexpr double Gap = 4;
 constexpr double Chord_Error = 0.1;
 
 QRectF Stroke_Area(const Device_Context& device) {
-    const double margin = 2 + device.pen_width * device.pen_scale;
+    const double margin = 2 + Pen_Pixels(device);
     return device.area.adjusted(-margin, -margin, margin, margin);
 }
 
@@ -47,8 +47,7 @@ QLineF With_Ends(const QLineF& line, double pen_width) {
 }  // namespace
 
 double Pixel_Middle(const Device_Context& device) {
-    const auto width = std::lround(std::max(1, device.pen_width) * device.pen_scale);
-    return width % 2 != 0 ? 0.5 : 0.0;
+    return std::lround(Pen_Pixels(device)) % 2 != 0 ? 0.5 : 0.0;
 }
 
 void Stroke_Line(Device_Context& device, QPainter& painter, const QLineF& line, double& way) {

@@ -35,7 +35,7 @@ std::string Block_Name() {
 /// A server in a thread of its own.
 class Running_Server {
   public:
-    explicit Running_Server(Answer answer)
+    explicit Running_Server(const Answer& answer)
         : server_(simulator::Open_Server(Class, fault_)), thread_([this, answer] {
               const int ends[] = {stop_.Get()};
               if (server_ != nullptr) simulator::Serve(*server_, ends, answer);
@@ -55,7 +55,7 @@ class Running_Server {
 class Transport : public testing::Test {
   protected:
     void SetUp() override {
-        setenv("XDG_RUNTIME_DIR", folder_.Path().c_str(), 1);
+        setenv("XDG_RUNTIME_DIR", scratch.Path().c_str(), 1);
         simulator::Start(Class, 0xFADE0006);
         skerrand::Clear_Link();
     }
@@ -73,8 +73,8 @@ class Transport : public testing::Test {
         return sent ? reply : 1000 + platform::GetLastError();
     }
 
-    Scratch_Folder folder_;
-    std::int32_t result_ = 99;
+    Scratch_Folder scratch;
+    std::int32_t result = 99;
 };
 
 constexpr std::uint32_t Timed_Out = 1000;
@@ -83,7 +83,7 @@ constexpr std::uint32_t Gone = 1000 + platform::Error_Invalid_Window;
 /// Runs `work` in a child and waits for its end; true if all went well there.
 bool In_Child(const std::function<bool()>& work) {
     const pid_t child = fork();
-    if (child == 0) _exit(work() ? 0 : 1);
+    if (child == 0) _exit(work() ? 0 : 1);  // as in a crash: nothing is put in order
     int status = 1;
     return waitpid(child, &status, 0) == child && status == 0;
 }
@@ -92,21 +92,21 @@ TEST_F(Transport, Link_Closed_And_Opened_Again_Shows_An_Old_Block) {
     const Running_Server server(platform::headless::Answer_Batch);
     for (const double lat : {-33.5, 90.0}) {
         simulator::Show({.lat = lat, .lon = 180, .heading = 270});
-        ASSERT_TRUE(skerrand::Open_Link(6, result_)) << result_;
+        ASSERT_TRUE(skerrand::Open_Link(6, result)) << result;
         for (int i = 0; i < 100; ++i) {
             std::int32_t raw_lat = 0, raw_lon = 0, raw_heading = 0;
-            ASSERT_TRUE(skerrand::Queue_Read(0x0564, 4, &raw_lat, result_) &&
-                        skerrand::Queue_Read(0x056C, 4, &raw_lon, result_) &&
-                        skerrand::Queue_Read(0x0580, 4, &raw_heading, result_) &&
-                        skerrand::Process_Queue(result_))
-                << result_;
+            ASSERT_TRUE(skerrand::Queue_Read(0x0564, 4, &raw_lat, result) &&
+                        skerrand::Queue_Read(0x056C, 4, &raw_lon, result) &&
+                        skerrand::Queue_Read(0x0580, 4, &raw_heading, result) &&
+                        skerrand::Process_Queue(result))
+                << result;
             EXPECT_NEAR(raw_lat * 90.0 / 10001750, lat, 1e-5);
             EXPECT_EQ(raw_lon, INT32_MIN);
             EXPECT_EQ(raw_heading, -0x40000000);
         }
         const std::array<std::uint8_t, 2> data{3, 4};
-        ASSERT_TRUE(skerrand::Queue_Write(0x8000, 2, data.data(), result_) &&
-                    skerrand::Process_Queue(result_));
+        ASSERT_TRUE(skerrand::Queue_Write(0x8000, 2, data.data(), result) &&
+                    skerrand::Process_Queue(result));
         EXPECT_EQ(platform::headless::State_Area()[0x8001], 4);
         skerrand::Close_Link();
         std::array<char, 32> name;
@@ -162,7 +162,7 @@ TEST_F(Transport, Crash_Of_The_Server_Kills_The_Client_Or_Blocks_The_Next_Server
         const Running_Server next([](auto) { return 7; });
         EXPECT_EQ(Reply(Block_Name()), 7U);
     }
-    EXPECT_TRUE(std::filesystem::is_empty(folder_.Path() + "/skerrand")) << "a socket is left";
+    EXPECT_TRUE(std::filesystem::is_empty(scratch.Path() + "/skerrand")) << "a socket is left";
     platform::CloseHandle(block);
     close(ready[0]);
     close(ready[1]);
