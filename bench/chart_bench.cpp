@@ -18,6 +18,7 @@
 #include "scenery/tables.h"
 #include "selection/airspace_search.h"
 #include "selection/picks.h"
+#include "simlink/live_poll.h"
 
 namespace bench {
 
@@ -59,6 +60,18 @@ void Draw(benchmark::State& state) {
         platform::Erase(form4::window);
         Time(state, [] { Draw_Chart(); });
     }
+}
+
+/// A second of the chart: the aircraft's values, and all layers about where it is.
+void Tick(benchmark::State& state) {
+    if (!chart_view.link_open) return state.SkipWithError("no link to a simulator");
+    Zoom_To(Zoom_Airport);
+    follow_aircraft = true;
+    for (auto _ : state) {
+        Time(state, Clock::Wall, Chart_Refresher_Timer);
+    }
+    follow_aircraft = false;
+    form4::Center_Airport(current_airport.lon, current_airport.lat);
 }
 
 /// All points of the airport, through the projection alone.
@@ -109,6 +122,15 @@ void Register_Chart() {
     Register("chart/project", Project_Points)->Unit(benchmark::kMicrosecond);
 }
 
+void Register_Tick() {
+    Register("tick/chart", Tick)->Unit(benchmark::kMicrosecond)->Iterations(20);
+}
+
+void Add_Tick_Row(const Results& results, std::vector<Row>& rows) {
+    rows.push_back(
+        Limited("  a whole tick with a simulator, at zoom 36", results.Median("tick/chart"), 0));
+}
+
 void Show_Chart(const Folders& folders) {
     Read_Scenery(folders.demo);
     const auto largest = std::max_element(airport_table.begin(), airport_table.end(),
@@ -120,6 +142,10 @@ void Show_Chart(const Folders& folders) {
     destination_airport = *largest;
     Release_Airport_Table();
     Search_Airspaces();
+    Open_Chart();
+}
+
+void Open_Chart() {
     platform::Show(form4::window);
     platform::SetWindowPos(form4::window, platform::Insert_After::HWND_TOPMOST, 0, 0, 1920, 1080,
                            platform::SWP_NOMOVE);

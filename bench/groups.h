@@ -46,10 +46,24 @@ void Add_Start_Rows(const Results& results, std::vector<Row>& rows);
 /// inside a handler or ahead of the first event.
 void Register_Chart();
 void Show_Chart(const Folders& folders);
+void Open_Chart();  ///< once more, with a new link
 void Zoom_To(int rate);
 void Add_Chart_Rows(const Results& results, double limit, std::vector<Row>& rows);
 
-/// Runs the benchmarks of a group.
+/// The chart's tick, all of it; needs the link to a simulator whose aircraft is at the airport.
+void Register_Tick();
+void Add_Tick_Row(const Results& results, std::vector<Row>& rows);
+
+/// The search for airspaces; needs the first run behind it.
+void Register_Airspace_Search();
+void Prepare_Airspace_Search(const Folders& folders);
+void Add_Airspace_Search_Rows(const Results& results, std::vector<Row>& rows);
+
+/// The airspaces of a chart, on any back-end; needs `Show_Chart` behind it.
+void Register_Airspace_Drawing();
+void Add_Airspace_Drawing_Rows(const Results& results, double limit, std::vector<Row>& rows);
+
+/// Runs the benchmarks of a group, or of a part of one ("airspaces/draw").
 void Run_Group(const char* name, Results& results);
 
 /// Hands the options of the command line to the benchmark library, with this project's defaults

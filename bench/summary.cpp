@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <iomanip>
 #include <iostream>
 #include <sstream>
@@ -90,7 +91,7 @@ Row Compared(const Results& results, std::string measure, const std::string& nam
             .yardstick = Time_Text(standard),
             .ratio = Number_Text(ratio, 2, "")};
     if (most > 0) {
-        row.target = "at most " + Number_Text(most, 0, " times");
+        row.target = "at most " + Number_Text(most, most == std::floor(most) ? 0 : 1, " times");
         row.met = ratio > 0 && ratio <= most;
     }
     return row;

@@ -1,5 +1,6 @@
 #include "scenery/airspace_reader.h"
 
+#include <cstring>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -172,16 +173,25 @@ bool Is_Passed(std::int64_t record) {
     return type != Rec_Bounds && Is_Known(type);
 }
 
+/// Type and size at the head of a record, as one number to compare.
+std::uint64_t Head_At(std::int64_t record) {
+    std::uint64_t head = 0;
+    std::memcpy(&head, bgl_bytes.data() + record, sizeof head);
+    return head;
+}
+
 /// Moves over the records of an object that encloses no airport so far, as nearly all do, up to the
 /// first one that has to be looked at.
 void Pass_To_Bounds(std::int64_t& record) {
     while (Is_Passed(record)) {
         const std::int32_t size = Read_Long(record + 4);
-        // An outline's records are mostly of one size. Stepping by a size that is known already,
-        // the processor need not wait for each record to tell where the next one stands.
+        const std::uint64_t head = Head_At(record);
+        // An outline's records are mostly of one type and size. Stepping by a size that is known
+        // already, the processor need not wait for each record to tell where the next one stands.
         do {
             if (!Step_Over(record, size)) return;
-        } while (Is_Passed(record) && Read_Long(record + 4) == size);
+        } while (In_Image(record, 8) &&
+                 (Head_At(record) == head || (Is_Passed(record) && Read_Long(record + 4) == size)));
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
@@ -14,6 +15,10 @@
 /// it is about to read; a false answer is a fault of the file, which ends the walk of that whole
 /// file by a false result through all its callers. The primitives themselves check nothing.
 namespace skerrand {
+
+/// The mark of a BGL file with sections: the number 0x87654321 at this offset.
+inline constexpr std::size_t Magic_Offset = 0x76;
+inline constexpr std::array<std::uint8_t, 4> Bgl_Magic = {0x21, 0x43, 0x65, 0x87};
 
 /// A file of n bytes and one spare zero byte behind it: positions 0 to n may be read.
 extern platform::Bytes bgl_bytes;

@@ -27,8 +27,6 @@ namespace skerrand {
 namespace {
 
 constexpr const char* Bgl_Ending = ".bgl";
-constexpr std::size_t Magic_Offset = 118;
-constexpr std::array<std::uint8_t, 4> Magic = {0x21, 0x43, 0x65, 0x87};
 
 // Where the scan stands.
 std::size_t area_index = 0;
@@ -93,8 +91,8 @@ void Clear_Tables() {
 }
 
 bool Has_Magic(const std::string& file) {
-    std::array<std::uint8_t, 4> bytes{};
-    return platform::Read_File_Part(file, Magic_Offset, bytes) && bytes == Magic;
+    std::array<std::uint8_t, Bgl_Magic.size()> bytes{};
+    return platform::Read_File_Part(file, Magic_Offset, bytes) && bytes == Bgl_Magic;
 }
 
 /// A file that cannot be read is passed over; the bar counts it all the same.

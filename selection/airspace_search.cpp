@@ -1,5 +1,6 @@
 #include "selection/airspace_search.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -19,9 +20,6 @@ namespace skerrand {
 
 namespace {
 
-constexpr std::int64_t Magic_Position = 0x76;
-constexpr std::uint32_t Bgl_Magic = 0x87654321;
-
 // Feet; an airspace with a limit above the last of them is of class B.
 constexpr std::int32_t Class_D_Top = 2500;
 constexpr std::int32_t Class_C_Top = 4000;
@@ -36,8 +34,8 @@ struct Unread_Files {
 };
 
 bool Has_Magic() {
-    return In_Image(Magic_Position, 4) &&
-           static_cast<std::uint32_t>(Read_Long(Magic_Position)) == Bgl_Magic;
+    return bgl_bytes.size() >= Magic_Offset + Bgl_Magic.size() &&
+           std::equal(Bgl_Magic.begin(), Bgl_Magic.end(), bgl_bytes.begin() + Magic_Offset);
 }
 
 void Show_Progress(int done, int files) {

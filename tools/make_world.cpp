@@ -3,9 +3,12 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <utility>
 
 #include "tools/demo_airports.h"
+#include "tools/demo_airspaces.h"
 #include "tools/invented_airports.h"
+#include "tools/invented_airspaces.h"
 #include "tools/options.h"
 #include "tools/world_folder.h"
 
@@ -19,6 +22,8 @@ namespace fs = std::filesystem;
 // some hundred files of a world of 27,000.
 constexpr int Real_Airports_Of_File = 4;
 constexpr int Invented_Airports_Of_File = 80;
+
+constexpr int Real_Airspace_Files = 8;
 
 std::string Read_Text(const fs::path& file, std::string& text) {
     std::ifstream stream(file, std::ios::binary);
@@ -51,13 +56,18 @@ std::string Make_World(const world::Options& options) {
     if (options.airports) {
         made.airports = world::Invent_Airports(*options.airports, options.seed);
         made.airports_of_file = Invented_Airports_Of_File;
+        const int airspaces = world::Airspaces_For(*options.airports);
+        made.airspaces = world::Invent_Airspaces(made.airports, airspaces);
+        made.airspace_files = world::Airspace_Files_For(*options.airports);
     } else {
         fault = Read_Airports(data / "demo_airports.txt", made.airports);
         made.airports_of_file = Real_Airports_Of_File;
         if (!fault.empty()) return fault;
+        made.airspaces = world::Demo_Airspaces(made.airports);
+        made.airspace_files = Real_Airspace_Files;
     }
     fault = world::Prepare_Folder(options.folder);
-    return fault.empty() ? world::Write_World(options.folder, made) : fault;
+    return fault.empty() ? world::Write_World(options.folder, std::move(made)) : fault;
 }
 
 }  // namespace

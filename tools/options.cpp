@@ -11,13 +11,13 @@ const char* const Help_Text =
     R"(Usage: make_world FOLDER [--data DIR] [--airports N [--seed S]]
 
 Writes a simulator's main folder that Skerrand can read: fs2002.exe (an empty
-marker), scenery.cfg, the magnetic grid and scenery files with airports. FOLDER
-is created; if it holds a world that make_world wrote, that one is replaced, and
-any other folder that is not empty is refused.
+marker), scenery.cfg, the magnetic grid and scenery files with airports and
+airspaces. FOLDER is created; if it holds a world that make_world wrote, that
+one is replaced, and any other folder that is not empty is refused.
 
   --data DIR    where the facts lie (demo_airports.txt, magnetic_variation.txt)
   --airports N  invent N airports of all sizes instead of the real ones,
-                at most 456976
+                at most 456976, and airspaces in proportion
   --seed S      another choice of invented airports; the same N and S give the
                 same files (1 if not given)
   --help        show this text

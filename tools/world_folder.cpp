@@ -7,7 +7,9 @@
 #include <system_error>
 
 #include "tools/airport_block.h"
+#include "tools/airspace_block.h"
 #include "tools/world_areas.h"
+#include "tools/world_files.h"
 
 namespace world {
 
@@ -79,38 +81,24 @@ std::string Empty_Folder(const fs::path& folder) {
     return "";
 }
 
-// apt0001.bgl, APT0002.BGL, ...: installed scenery mixes letter cases.
-std::string File_Name(int number) {
-    std::string digits = std::to_string(number);
-    digits.insert(0, digits.size() < 4 ? 4 - digits.size() : 0, '0');
-    return number % 2 == 0 ? "APT" + digits + ".BGL" : "apt" + digits + ".bgl";
-}
+// Two groups, for readers have to go on from one to the next.
+constexpr std::size_t Airspace_Groups = 2;
 
-std::string Write_Area(const fs::path& folder, const std::vector<Airport_Facts>& airports,
-                       std::size_t of_file, int& file_number) {
-    for (std::size_t first = 0; first < airports.size(); first += of_file) {
-        const std::span<const Airport_Facts> rest = std::span(airports).subspan(first);
-        const Bytes bytes = Airports_File(rest.first(std::min(of_file, rest.size())));
-        const std::string fault = Write_File(folder / File_Name(++file_number), bytes);
-        if (!fault.empty()) return fault;
+std::string Make_Area_Folders(const fs::path& folder) {
+    for (const Area& area : Areas()) {
+        if (area.folder[0] == '\0') continue;
+        std::error_code error;
+        fs::create_directories(folder / area.folder, error);
+        if (error) return Fault("create", folder / area.folder, error.message());
     }
     return "";
 }
 
-std::string Write_Areas(const fs::path& folder, const World& world) {
-    std::vector<std::vector<Airport_Facts>> by_area(Areas().size());
-    for (const Airport_Facts& airport : world.airports) {
-        by_area[Area_Of(airport.position)].push_back(airport);
-    }
-    int file_number = 0;
-    for (std::size_t i = 0; i < by_area.size(); ++i) {
-        if (Areas()[i].folder[0] == '\0') continue;
-        const fs::path area_folder = folder / Areas()[i].folder;
-        std::error_code error;
-        fs::create_directories(area_folder, error);
-        if (error) return Fault("create", area_folder, error.message());
-        const auto of_file = static_cast<std::size_t>(world.airports_of_file);
-        const std::string fault = Write_Area(area_folder, by_area[i], of_file, file_number);
+std::string Write_Scenery(const fs::path& folder, const World& world) {
+    for (const World_File& file : Plan_Files(world)) {
+        Bytes bytes = Airports_File(file.airports);
+        Put_Airspace_Section(bytes, file.airspaces, Airspace_Groups);
+        const std::string fault = Write_File(folder / Areas()[file.area].folder / file.name, bytes);
         if (!fault.empty()) return fault;
     }
     return "";
@@ -126,8 +114,10 @@ std::string Prepare_Folder(const fs::path& folder) {
     return fault.empty() ? Write_File(folder / Marker_File, Marker_Text) : fault;
 }
 
-std::string Write_World(const fs::path& folder, const World& world) {
-    std::string fault = Write_Areas(folder, world);
+std::string Write_World(const fs::path& folder, World world) {
+    Order_By_Area(world.airports);
+    std::string fault = Make_Area_Folders(folder);
+    if (fault.empty()) fault = Write_Scenery(folder, world);
     if (fault.empty()) {
         fault = Write_File(folder / "Scenery" / "magdec.bgl", Magdec_File(world.variation));
     }

@@ -115,9 +115,8 @@ std::string Point_At(const Bounds& b, double angle) {
 
 std::string Arc_Element(const Drawing_Call& call) {
     const Bounds b = Bounds_Of(call);
-    if (b.left == b.right || b.top == b.bottom) {
-        return Line_Element(b.left, b.top, b.right, b.bottom);  // an ellipse pressed flat
-    }
+    // An ellipse pressed flat has no angles; with a radius of 0 nothing of it shows.
+    if (b.left == b.right || b.top == b.bottom) return Ellipse_Element(b);
     const double start = Angle_Of(b, call.numbers[4], call.numbers[5]);
     const double end = Angle_Of(b, call.numbers[6], call.numbers[7]);
     const double sweep = end >= start ? end - start : end - start + 2 * std::numbers::pi;

@@ -65,6 +65,33 @@ TEST_F(Airspace_Layer, OutlineIsBentOrTurnedTheWrongWay) {
     EXPECT_EQ(Draw(), expected);
 }
 
+TEST_F(Airspace_Layer, ArcTakesWhatBelongsToTheOneBefore) {
+    const struct {
+        double center;
+        Boundary_Point end;
+    } arcs[] = {
+        {0, {Point_Arc_Cw, 0, 1, 0}},   {0, {Point_Arc_Cw, -1, 0, 0}},
+        {1, {Point_Arc_Ccw, 0, 1, 0}},  {1, {Point_Arc_Ccw, 1, 0, 0}},
+        {0, {Point_Line, 0, -2, 0}},    {0, {Point_Arc_Cw, 2, 0, 0}},
+        {0, {Point_Circle, 0, 0, 141}}, {0.5, {Point_Circle, 0, 0, 141}},
+        {0.5, {Point_Arc_Cw, 1, 1, 0}}, {1, {Point_Circle, 0, 0, 42}},
+    };
+    Boundary_Point at{Point_Start, 1, 0, 0};
+    std::vector<Boundary_Point> outline = {at};
+    std::vector<Call> alone;
+    for (const auto& [center, end] : arcs) {
+        const Boundary_Point middle{Point_Center, center, center, 0};
+        outline.insert(outline.end(), {middle, end});
+        current_airspaces.clear();
+        Add(Label_Class_B, {at, middle, end});
+        alone.push_back(Draw().at(0));
+        if (end.kind != Point_Circle) at = {Point_Start, end.lat, end.lon, 0};
+    }
+    current_airspaces.clear();
+    Add(Label_Class_B, outline);
+    EXPECT_EQ(Draw(), alone);
+}
+
 TEST_F(Airspace_Layer, OneAirspaceDrawsWithThePlaceOfAnother) {
     Add(Label_Class_C, {{Point_Center, 1, 1, 0}, {Point_Start, -2, -2, 0}});
     for (const auto label : {Label_Tracon, Label_Class_D, Label_Center, std::string_view()}) {

@@ -3,8 +3,11 @@
 #include "platform/drawing.h"
 
 #include <QImage>
+#include <algorithm>
+#include <array>
 #include <climits>
 #include <gtest/gtest.h>
+#include <string>
 
 #include "platform/desktop/device.h"
 
@@ -91,6 +94,77 @@ TEST(Drawing, An_Arc_Must_Not_Take_The_Angle_Of_A_Radial_For_That_Of_The_Ellipse
     for (int y = 45; y < 75; ++y) {
         EXPECT_EQ(page.At(150, y), White) << y;
         EXPECT_EQ(page.At(90, y), White) << y;
+    }
+}
+
+// A circle round 120, 60 whose outline runs through 80, 60 and 120, 20 and so on. East, north, west
+// and south of it are seen if the sweep goes there.
+TEST(Drawing, An_Arc_Must_Not_Sweep_The_Wrong_Way_Or_Mind_The_Order_Of_The_Corners) {
+    constexpr int box[] = {80, 20, 161, 101};
+    const struct {
+        QPoint from, to;
+        const char* seen;
+    } cases[] = {
+        {{160, 50}, {110, 20}, "N"},    {{110, 20}, {160, 50}, "WSE"},
+        {{160, 70}, {110, 100}, "ENW"}, {{110, 100}, {160, 70}, "S"},
+        {{121, 0}, {119, 0}, "N"},      {{119, 0}, {121, 0}, "WSE"},
+        {{150, 30}, {150, 30}, "ENWS"}, {{150, 30}, {240, -60}, "ENWS"},
+    };
+    for (const auto& c : cases) {
+        for (const auto& corners :
+             {std::array{0, 1, 2, 3}, {2, 1, 0, 3}, {0, 3, 2, 1}, {2, 3, 0, 1}}) {
+            Page page;
+            Arc(&page.device, box[corners[0]], box[corners[1]], box[corners[2]], box[corners[3]],
+                c.from.x(), c.from.y(), c.to.x(), c.to.y());
+            std::string seen;
+            const std::pair<char, QPoint> places[] = {
+                {'E', {160, 60}}, {'N', {120, 20}}, {'W', {80, 60}}, {'S', {120, 100}}};
+            for (const auto& [name, at] : places)
+                seen += page.At(at.x(), at.y()) != White ? std::string(1, name) : "";
+            std::string expected = c.seen;
+            std::sort(expected.begin(), expected.end());
+            std::sort(seen.begin(), seen.end());
+            EXPECT_EQ(seen, expected) << c.from.x() << ' ' << c.from.y() << ' ' << corners[0];
+        }
+    }
+}
+
+TEST(Drawing, A_Flat_Figure_Must_Draw_Nothing) {
+    for (const Pen_Style style : {Pen_Style::Solid, Pen_Style::Dashed}) {
+        Page page;
+        Set_Pen_Style(&page.device, style);
+        Set_Fill_Style(&page.device, Fill_Style::Solid);
+        for (const QRect& box : {QRect(50, 10, 0, 80), QRect(50, 10, 80, 0), QRect(50, 10, 0, 0)}) {
+            const int right = box.x() + box.width();
+            const int bottom = box.y() + box.height();
+            Arc(&page.device, box.x(), box.y(), right, bottom, 0, 0, 200, 0);
+            Ellipse(&page.device, box.x(), box.y(), right, bottom);
+            Rectangle(&page.device, box.x(), box.y(), right, bottom);
+        }
+        page.At(0, 0);
+        QImage blank(page.image.size(), page.image.format());
+        blank.fill(Qt::white);
+        EXPECT_EQ(page.image, blank);
+    }
+}
+
+// Neither a huge outline nor a small one may come out solid or vanish.
+TEST(Drawing, A_Dashed_Curve_Must_Not_Become_Solid_Or_Empty) {
+    for (const int radius : {8, 30, 100, 100000, 100000000}) {
+        Page page;
+        Set_Pen_Style(&page.device, Pen_Style::Dashed);
+        Arc(&page.device, 120 - radius, 20, 121 + radius, 21 + 2 * radius, 240, 20, 0, 20);
+        page.At(0, 0);
+        int drawn = 0;
+        int columns = 0;
+        for (int x = std::max(0, 120 - radius); x <= std::min(239, 120 + radius); ++x, ++columns) {
+            bool is_drawn = false;
+            for (int y = 0; y < 120; ++y)
+                is_drawn = is_drawn || qGray(page.image.pixel(x, y)) < 128;
+            drawn += is_drawn ? 1 : 0;
+        }
+        EXPECT_GT(drawn, columns / 3) << radius;
+        EXPECT_LT(drawn, columns * 4 / 5) << radius;
     }
 }
 

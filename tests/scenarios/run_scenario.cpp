@@ -9,6 +9,7 @@
 //     > get Form2.caption           a command to the program
 //     Settings                      the lines of its answer; see answers.h for "..." and empty ones
 //     ok                            may be left out: an answer that tells no end ends with ok
+//     ! again 40                    gives the last command so many times more, each with its answer
 //     ! restart                     ends the program; the next command starts a new one
 //
 // ${work} is the program's working folder, ${world} a folder beside it that does not exist yet. The
@@ -35,6 +36,8 @@ struct Scenario {
     std::string file;
     fs::path scratch = {};
     Child child = {};
+    std::string command = {};                ///< the last one
+    std::vector<std::string> expected = {};  ///< its answer
     int line_number = 0;
     int failures = 0;
 };
@@ -76,12 +79,9 @@ void End_Program(Scenario& scenario) {
     }
 }
 
-void Do_Command(Scenario& scenario, int at, const std::string& command,
-                std::vector<std::string> expected) {
-    const bool tells_end = std::any_of(
-        expected.begin(), expected.end(),
-        [](const std::string& line) { return line == "ok" || line.starts_with("error "); });
-    if (!tells_end) expected.emplace_back("ok");
+void Give_Command(Scenario& scenario, int at) {
+    const std::string& command = scenario.command;
+    const std::vector<std::string>& expected = scenario.expected;
     if (scenario.child.process < 0) scenario.child = Start_Child({scenario.program});
     std::vector<std::string> answer;
     const bool answered = Ask(scenario.child, command, answer);
@@ -92,12 +92,28 @@ void Do_Command(Scenario& scenario, int at, const std::string& command,
     if (!answered || command == "quit") End_Program(scenario);
 }
 
+void Do_Command(Scenario& scenario, int at, const std::string& command,
+                std::vector<std::string> expected) {
+    const bool tells_end = std::any_of(
+        expected.begin(), expected.end(),
+        [](const std::string& line) { return line == "ok" || line.starts_with("error "); });
+    if (!tells_end) expected.emplace_back("ok");
+    scenario.command = command;
+    scenario.expected = std::move(expected);
+    Give_Command(scenario, at);
+}
+
 void Do_File_Step(Scenario& scenario, int at, const std::string& step) {
     if (step == "restart") return End_Program(scenario);
     std::istringstream stream(step);
     std::vector<std::string> words;
     for (std::string word; std::getline(stream, word, ' ');)
         words.push_back(word);
+    if (words[0] == "again" && words.size() == 2) {
+        for (int times = std::atoi(words[1].c_str()); times > 0; --times)
+            Give_Command(scenario, at);
+        return;
+    }
     const std::string problem = Do_Step(words, scenario.make_world);
     if (!problem.empty()) Report(scenario, at, "! " + step + ": " + problem);
 }

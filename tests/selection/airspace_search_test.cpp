@@ -4,8 +4,10 @@
 
 #include "app/settings.h"
 #include "chart/current_chart.h"
+#include "platform/controls.h"
 #include "platform/headless/message_box.h"
 #include "scenery/tables.h"
+#include "selection/form3.h"
 #include "selection/picks.h"
 #include "tests/scenery/bgl_builder.h"
 
@@ -118,6 +120,18 @@ TEST_F(Airspace_Search, UnreadableFileEndsTheSearchOrGoesUntold) {
     ASSERT_EQ(messages.size(), 1);
     EXPECT_EQ(messages[0].text.find("2 of the 4"), 0);
     EXPECT_NE(messages[0].text.find("no such 1"), std::string::npos);
+}
+
+TEST_F(Airspace_Search, BarStandsStillOrPassesItsEnd) {
+    platform::Show(form3::window);
+    Search({"no such file", Saved("empty.bgl", {}), Saved("sound.bgl", Image({}, {}))});
+    const platform::Progress full = platform::Progress_Of(form3::ProgressBar1);
+    EXPECT_EQ(full.minimum, 0);
+    EXPECT_EQ(full.maximum, 3);
+    EXPECT_EQ(full.value, 3);
+    Search({});
+    EXPECT_EQ(platform::Progress_Of(form3::ProgressBar1).maximum, 0);
+    platform::Unload(form3::window);
 }
 
 }  // namespace

@@ -1,16 +1,21 @@
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <map>
 #include <numbers>
 
 #include "app/settings.h"
 #include "scenery/bgl_reader.h"
 #include "scenery/bgl_walk.h"
 #include "scenery/tables.h"
+#include "selection/picks.h"
 #include "tools/airport_block.h"
+#include "tools/airspace_block.h"
 #include "tools/demo_airports.h"
 #include "tools/invented_airports.h"
+#include "tools/invented_airspaces.h"
 #include "tools/local_metres.h"
 
 // What make_world writes has to come back through the program's own readers.
@@ -128,6 +133,55 @@ TEST(Make_World, Real_Airports_Read_Otherwise_Than_The_Facts) {
 
 TEST(Make_World, Invented_Airports_Damaged_By_Writing) {
     Expect_Same(Invent_Airports(1500, 5));
+}
+
+void Expect_Outline(const Airspace_Facts& facts, const skerrand::Airspace_Info& read) {
+    static const std::map<Outline_Kind, skerrand::Boundary_Kind> Kinds = {
+        {Outline_Kind::Start, skerrand::Boundary_Kind::Point_Start},
+        {Outline_Kind::Center, skerrand::Boundary_Kind::Point_Center},
+        {Outline_Kind::Circle, skerrand::Boundary_Kind::Point_Circle},
+        {Outline_Kind::Arc_Cw, skerrand::Boundary_Kind::Point_Arc_Cw},
+        {Outline_Kind::Arc_Ccw, skerrand::Boundary_Kind::Point_Arc_Ccw},
+        {Outline_Kind::Line, skerrand::Boundary_Kind::Point_Line}};
+    ASSERT_EQ(read.boundary.size(), facts.outline.size());
+    for (std::size_t i = 0; i < facts.outline.size(); ++i) {
+        EXPECT_EQ(read.boundary[i].kind, Kinds.at(facts.outline[i].kind));
+        EXPECT_EQ(read.boundary[i].radius, facts.outline[i].half_diagonal);
+        const Position position = facts.outline[i].position;
+        EXPECT_LT(Metres(position, read.boundary[i].lat, read.boundary[i].lon), 10);
+    }
+}
+
+TEST(Make_World, Airspaces_Not_Found_From_The_Airport_Inside) {
+    std::vector<Airport_Facts> airports = Invent_Airports(1500, 5);
+    for (Airport_Facts& airport : airports)
+        airport.name = airport.ident;  // names repeat
+    const std::vector<Airspace_Facts> airspaces = Invent_Airspaces(airports, Airspaces_For(1500));
+    ASSERT_EQ(airspaces.size(), 278U);
+    skerrand::bgl_bytes = New_Bgl_File();
+    Put_Airspace_Section(skerrand::bgl_bytes, airspaces, 3);
+    skerrand::database_ready = true;
+    skerrand::first_run = false;
+    std::size_t owned = 0;
+    for (const Airport_Facts& airport : airports) {
+        const auto is_own = [&airport](const auto& airspace) {
+            return airspace.name.starts_with(airport.name + ' ');
+        };
+        const auto facts = std::find_if(airspaces.begin(), airspaces.end(), is_own);
+        if (facts == airspaces.end()) continue;
+        skerrand::departure_airspaces.clear();
+        skerrand::departure_airport.lat = airport.position.lat;
+        skerrand::departure_airport.lon = airport.position.lon;
+        skerrand::Walk_Bgl();
+        const auto& found = skerrand::departure_airspaces;
+        const auto read = std::find_if(found.begin(), found.end(), is_own);
+        ASSERT_NE(read, found.end()) << airport.name;
+        EXPECT_EQ(read->high_limit, facts->high_ft);
+        Expect_Outline(*facts, *read);
+        ++owned;
+    }
+    EXPECT_GT(owned, 50U);
+    skerrand::database_ready = false;
 }
 
 TEST(Make_World, Labels_Of_Parkings_Shifted) {

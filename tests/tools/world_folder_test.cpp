@@ -4,8 +4,11 @@
 #include <gtest/gtest.h>
 #include <iterator>
 #include <map>
+#include <set>
 
 #include "tools/invented_airports.h"
+#include "tools/invented_airspaces.h"
+#include "tools/world_files.h"
 
 namespace {
 
@@ -24,7 +27,10 @@ struct Scratch {
 };
 
 World Invent_World(int count, std::uint64_t seed) {
-    return {Invent_Airports(count, seed), Coarse_Grid(Coarse_Rows * Coarse_Columns), 10};
+    World made{Invent_Airports(count, seed), Coarse_Grid(Coarse_Rows * Coarse_Columns), 10};
+    made.airspaces = Invent_Airspaces(made.airports, count / 2);
+    made.airspace_files = count / 20;
+    return made;
 }
 
 std::map<std::string, std::string> Contents(const fs::path& folder) {
@@ -49,6 +55,26 @@ TEST(World_Folder, Same_Seed_Writes_Other_Files) {
     EXPECT_GE(contents.size(), 10U);
     EXPECT_EQ(contents, Contents(scratch.folder / "b"));
     EXPECT_NE(contents, Contents(scratch.folder / "c"));
+}
+
+TEST(World_Folder, Airspace_Dealt_Out_Twice_Or_Never) {
+    for (const std::size_t shares : {1U, 2U, 7U, 300U}) {
+        World made = Invent_World(60, 3);
+        made.airspace_files = static_cast<int>(shares);
+        Order_By_Area(made.airports);
+        std::size_t airports = 0, airspaces = 0, alone = 0;
+        std::set<const Airspace_Facts*> first_ones;
+        for (const World_File& file : Plan_Files(made)) {
+            airports += file.airports.size();
+            airspaces += file.airspaces.size();
+            alone += file.airports.empty() ? 1U : 0U;
+            if (!file.airspaces.empty()) first_ones.insert(file.airspaces.data());
+        }
+        EXPECT_EQ(airports, 60U);
+        EXPECT_EQ(airspaces, made.airspaces.size());
+        EXPECT_EQ(first_ones.size(), std::min(made.airspaces.size(), shares));
+        EXPECT_GE(alone, shares / 2);
+    }
 }
 
 TEST(World_Folder, Smaller_World_Keeps_Files_Of_The_Larger) {

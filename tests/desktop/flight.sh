@@ -1,0 +1,55 @@
+#!/bin/bash
+# Flies the stand-in simulator's aircraft over a chart, and kills the simulator in mid-flight.
+. "$(dirname "$0")/steps.sh"
+
+"$bin/skerrand-headless" > setup.txt << END
+advance 3000
+folder Form2.Dir1 $folder/fs2002
+click Form2.Command1
+advance 5000
+END
+[ -s all_fs_airports.dat ] || fail "no database"
+
+# So far that it does not land before the test ends, on a slow machine either.
+begin skerrand-simulator --departure KSEA --destination EGLL --speed-up 10
+simulator=$program
+wait_for "the simulator does not stand" test -S "$XDG_RUNTIME_DIR/skerrand/UIPCMAIN"
+begin skerrand
+window '^Choosing an airport$'
+sleep 2.5
+pick "$id" 50 seattle
+pick "$id" 82 heathrow
+click "$id" 155 240 0
+
+window '^KSEA Chart$'
+chart=$id
+! shown '^Skerrand Message$' || fail "the chart does not find the simulator"
+# To zoom 29, where the view spans 0.7 degrees of longitude and no runway is drawn.
+for _ in $(seq 20); do click "$chart" 15 113 0.1; done
+sleep 1.5
+picture flight
+[ "$(green "$chart")" -gt 20 ] || fail "no aircraft on the chart"
+# The view goes with the aircraft, and the airport's name moves out of its middle.
+import -window "$chart" before.png
+sleep 4
+picture flight-goes-on
+import -window "$chart" after.png
+[ "$(compare -metric AE before.png after.png null: 2>&1)" -gt 100 ] || fail "the view stands still"
+
+kill -KILL $simulator
+answer link-lost
+wait_for "the aircraft stays on the chart" eval '[ "$(green "$chart")" -eq 0 ]'
+picture chart-goes-on
+click "$chart" 15 137 # "C" brings the airport back
+sleep 1.2
+picture airport-again
+! shown '^Skerrand Message$' || fail "a second message"
+import -window "$chart" again.png
+[ "$(compare -metric AE after.png again.png null: 2>&1)" -gt 100 ] || fail "the chart stands still"
+
+click "$chart" 20 12
+keys Down Return
+window '^Choosing an airport$'
+sleep 1.5
+click "$id" 280 240
+await_end "$program" "CLOSE_PROGRAM did not end the program"
