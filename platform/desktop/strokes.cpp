@@ -14,24 +14,30 @@ constexpr double Dash = 5;
 constexpr double Gap = 4;
 
 /// How far a polyline may stray from its curve, in pixels.
-constexpr double Chord_Error = 0.1;
+constexpr double Chord_Error = 0.2;
 
 QRectF Stroke_Area(const Device_Context& device) {
     const double margin = 2 + Pen_Pixels(device);
     return device.area.adjusted(-margin, -margin, margin, margin);
 }
 
-void Draw_Dashes(const Device_Context& device, QPainter& painter, const QLineF& line, double way) {
+using Dashes = QVarLengthArray<QLineF, 512>;
+
+/// Adds the dashes of a line that starts `way` pixels into the pattern.
+void Add_Dashes(const Device_Context& device, const QLineF& line, double way, Dashes& dashes) {
     const double length = line.length();
+    if (length <= 0) return;
     const double dash = Dash * device.pen_scale;
     const double period = dash + Gap * device.pen_scale;
     const QPointF step(line.dx() / length, line.dy() / length);
-    QVarLengthArray<QLineF, 512> dashes;
     for (double at = -std::fmod(way, period); at < length; at += period) {
         const double from = std::max(at, 0.0);
         const double to = std::min(at + dash, length);
         if (from < to) dashes.append(QLineF(line.p1() + step * from, line.p1() + step * to));
     }
+}
+
+void Draw_Dashes(QPainter& painter, const Dashes& dashes) {
     painter.drawLines(dashes.constData(), static_cast<int>(dashes.size()));
 }
 
@@ -54,7 +60,9 @@ void Stroke_Line(Device_Context& device, QPainter& painter, const QLineF& line, 
     const std::optional<QLineF> visible = Clip_Line(line, Stroke_Area(device));
     if (visible && device.pen_style == Pen_Style::Dashed && visible->length() > 0) {
         const double skipped = QLineF(line.p1(), visible->p1()).length();
-        Draw_Dashes(device, painter, *visible, way + skipped);
+        Dashes dashes;
+        Add_Dashes(device, *visible, way + skipped, dashes);
+        Draw_Dashes(painter, dashes);
     } else if (visible) {
         painter.drawLine(With_Ends(*visible, painter.pen().widthF()));
     }
@@ -76,9 +84,15 @@ void Stroke_Curve(Device_Context& device, QPainter& painter, const Ellipse_Shape
             painter.drawPolyline(points);
             continue;
         }
+        // One call for the whole curve: the toolkit's work for a call outweighs that for a dash.
+        Dashes dashes;
         double way = 0;
-        for (int i = 0; i < pieces; ++i)
-            Stroke_Line(device, painter, {points[i], points[i + 1]}, way);
+        for (int i = 0; i < pieces; ++i) {
+            const QLineF piece(points[i], points[i + 1]);
+            Add_Dashes(device, piece, way, dashes);
+            way += piece.length();
+        }
+        Draw_Dashes(painter, dashes);
     }
 }
 
