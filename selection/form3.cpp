@@ -87,8 +87,6 @@ constexpr platform::Window window = {.name = "Form3",
 
 constexpr platform::Control_Ref Combo1 = Find_Control(window, "Combo1");
 constexpr platform::Control_Ref Combo2 = Find_Control(window, "Combo2");
-constexpr platform::Control_Ref Command2 = Find_Control(window, "Command2");
-constexpr platform::Control_Ref Command3 = Find_Control(window, "Command3");
 constexpr platform::Control_Ref Drive1 = Find_Control(window, "Drive1");
 constexpr platform::Control_Ref ProgressBar1 = Find_Control(window, "ProgressBar1");
 constexpr platform::Control_Ref Read_Sceneries_Paths = Find_Control(window, "Read_Sceneries_Paths");
@@ -96,6 +94,8 @@ constexpr platform::Control_Ref Scan_Bgls = Find_Control(window, "Scan_Bgls");
 
 namespace {
 
+constexpr platform::Control_Ref Command2 = Find_Control(window, "Command2");
+constexpr platform::Control_Ref Command3 = Find_Control(window, "Command3");
 constexpr platform::Control_Ref Text1 = Find_Control(window, "Text1");
 
 void Form_Load() {

@@ -8,11 +8,9 @@ namespace skerrand::form3 {
 
 extern const platform::Window window;
 
-extern const platform::Control_Ref Combo1;    ///< departure list
-extern const platform::Control_Ref Combo2;    ///< destination list
-extern const platform::Control_Ref Command2;  ///< "CLOSE_PROGRAM"
-extern const platform::Control_Ref Command3;  ///< "GET AIRPORT"
-extern const platform::Control_Ref Drive1;    ///< the drives, for the scenery catalogue alone
+extern const platform::Control_Ref Combo1;  ///< departure list
+extern const platform::Control_Ref Combo2;  ///< destination list
+extern const platform::Control_Ref Drive1;  ///< the drives, for the scenery catalogue alone
 extern const platform::Control_Ref ProgressBar1;
 extern const platform::Control_Ref Read_Sceneries_Paths;
 extern const platform::Control_Ref Scan_Bgls;
