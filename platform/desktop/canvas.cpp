@@ -57,6 +57,7 @@ void Canvas::Fit_Image() {
     if (font != device.font) device.texts.clear();
     device.font = font;
     device.pen_scale = devicePixelRatioF();
+    device.dash_scale = device.pen_scale;
     device.area = image.rect();
     device.target = &image;
     update();

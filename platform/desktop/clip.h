@@ -2,8 +2,8 @@
 
 #include <QLineF>
 #include <QRectF>
+#include <QVarLengthArray>
 #include <optional>
-#include <vector>
 
 /// Cutting to what can be seen. The program's points may lie two thousand million pixels outside of
 /// the picture; the toolkit's own arithmetic is only sound for some ten thousand.
@@ -27,7 +27,9 @@ struct Range {
     double to = 0;
 };
 
+using Visible_Parts = QVarLengthArray<Range, 8>;
+
 /// The parts of the range of t, in ascending order, whose points lie inside the rectangle.
-std::vector<Range> Visible_Ranges(const Ellipse_Shape& shape, Range range, const QRectF& area);
+Visible_Parts Visible_Ranges(const Ellipse_Shape& shape, Range range, const QRectF& area);
 
 }  // namespace platform::desktop

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/desktop/wide_registers.h"
+
 namespace platform::desktop {
 
 namespace {
@@ -33,6 +35,7 @@ QPainter* Open_Painter(Device_Context* device) {
     }
     if (!device->pen_set) Set_Pen(*device);
     if (device->changed) device->changed();
+    Release_Wide_Registers();
     return &device->painter;
 }
 

@@ -19,6 +19,7 @@ struct Device_Context {
     QPaintDevice* target = nullptr;  ///< null: calls change the state and draw nothing
     QRectF area;                     ///< what of it can be seen, in its pixels
     double pen_scale = 1;            ///< pixels to a step of the pen's width
+    double dash_scale = 1;           ///< the same for the lengths of dashes and their gaps
     QFont font;                      ///< sized in the target's pixels
     std::function<void()> changed;   ///< called at each change of the picture
 

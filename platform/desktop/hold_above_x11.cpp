@@ -30,6 +30,7 @@ void Hold_Above(const QWindow& window) {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     if (x11 == nullptr) return;
     xcb_connection_t* connection = x11->connection();
+    if (connection == nullptr) return;  // the toolkit shows its windows elsewhere
     static const xcb_atom_t state = Atom(connection, "_NET_WM_STATE");
     static const xcb_atom_t above = Atom(connection, "_NET_WM_STATE_ABOVE");
 

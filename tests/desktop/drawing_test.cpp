@@ -6,9 +6,11 @@
 #include <algorithm>
 #include <array>
 #include <climits>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <string>
 
+#include "platform/desktop/curve.h"
 #include "platform/desktop/device.h"
 
 namespace platform {
@@ -188,6 +190,112 @@ TEST(Drawing, Dashes_Must_Not_Start_Anew_At_Each_Short_Line_Of_An_Outline) {
     }
     EXPECT_LE(differences, 25);  // A pixel at the end of a dash may fall either way.
     EXPECT_GT(dashes, 15);
+}
+
+int Count_Drawn(const QImage& image) {
+    int drawn = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            drawn += image.pixel(x, y) != White ? 1 : 0;
+    }
+    return drawn;
+}
+
+/// The arc of the ellipse in that box between two angles of the circle.
+void Draw_Arc(Page& page, const QRect& box, double from, double to) {
+    const QPoint middle = box.center();
+    const auto x = [&](double t) { return middle.x() + static_cast<int>(1e6 * std::cos(t)); };
+    const auto y = [&](double t) { return middle.y() - static_cast<int>(1e6 * std::sin(t)); };
+    const int right = box.x() + box.width();
+    const int bottom = box.y() + box.height();
+    Arc(&page.device, box.x(), box.y(), right, bottom, x(from), y(from), x(to), y(to));
+}
+
+// Each outline has ends of its own, where some pixels may differ.
+TEST(Drawing, Outlines_That_Share_An_Arc_Must_Not_Fill_The_Gaps_Of_Each_Other) {
+    for (const int pen_width : {1, 5}) {
+        for (const int height : {110, 60}) {
+            const QRect box(60, 5, 111, height);
+            Page page;
+            Set_Pen_Style(&page.device, Pen_Style::Dashed);
+            Set_Pen_Width(&page.device, pen_width);
+            Ellipse(&page.device, 60, 5, 171, 5 + height);
+            page.At(0, 0);
+            const int drawn = Count_Drawn(page.image);
+            for (int i = 0; i < 10; ++i)
+                Draw_Arc(page, box, 0.628 * i + 0.3, 0.628 * i + 2.3);
+            page.At(0, 0);
+            EXPECT_LT(Count_Drawn(page.image) - drawn, 20 * pen_width) << height;
+        }
+    }
+}
+
+TEST(Drawing, Dashes_Of_A_Flat_Ellipse_Must_Not_Be_Longer_Here_And_Shorter_There) {
+    for (const double radius_y : {100.0, 300.0, 900.0}) {
+        const desktop::Ellipse_Shape shape{{0, 0}, 300, radius_y};
+        const desktop::Outline outline = Outline_Of(shape, 9);
+        for (double t = 0; t < 6; t += 0.01) {
+            const double way = Way_To(outline, t + 0.01) - Way_To(outline, t);
+            const double length = QLineF(shape.At(t), shape.At(t + 0.01)).length();
+            EXPECT_NEAR(way, length, length / 20) << radius_y << ' ' << t;
+        }
+    }
+}
+
+TEST(Drawing, A_Dashed_Figure_Must_Not_Vanish_Because_It_Is_Small) {
+    for (double t = 0; t < 6.3; t += 0.157) {
+        Page page;
+        Set_Pen_Style(&page.device, Pen_Style::Dashed);
+        Draw_Arc(page, QRect(70, 10, 101, 101), t, t + 0.04);
+        page.At(0, 0);
+        EXPECT_GT(Count_Drawn(page.image), 0) << t;
+    }
+    for (int size = 2; size < 10; ++size) {
+        Page page;
+        Set_Pen_Style(&page.device, Pen_Style::Dashed);
+        Ellipse(&page.device, 100, 20, 100 + size, 20 + size);
+        MoveToEx(&page.device, 20, 20), LineTo(&page.device, 18 + size, 22);
+        page.At(0, 0);
+        EXPECT_GT(Count_Drawn(page.image.copy(90, 0, 30, 50)), 0) << size;
+        EXPECT_GT(Count_Drawn(page.image.copy(10, 0, 30, 50)), 0) << size;
+    }
+}
+
+int Count_Without_Neighbour(const QImage& image, const QImage& other) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRect near = QRect(x - 1, y - 1, 3, 3) & image.rect();
+            if (image.pixel(x, y) == Black && Count_Drawn(other.copy(near)) == 0) ++count;
+        }
+    }
+    return count;
+}
+
+// Only an image without an alpha channel is painted directly; the toolkit draws on the other.
+TEST(Drawing, Dashes_Put_Into_The_Image_Must_Not_Stray_From_Those_The_Toolkit_Draws) {
+    for (const int scale : {1, 2, 4}) {
+        Page direct;
+        Page toolkit;
+        toolkit.image = toolkit.image.convertToFormat(QImage::Format_ARGB32);
+        for (Page* page : {&direct, &toolkit}) {
+            Set_Pen_Style(&page->device, Pen_Style::Dashed);
+            page->device.pen_scale = page->device.dash_scale = scale;
+            for (const int radius : {10, 57, 130, 400, 1000000}) {
+                Ellipse(&page->device, 120 - radius, 60 - radius, 121 + radius, 61 + radius);
+                Ellipse(&page->device, 240 - 2 * radius, 0, 241, radius);
+            }
+            for (const QPoint end : {QPoint(500, 90), {-3, 119}, {30, -400}, {239, 119}}) {
+                MoveToEx(&page->device, 120, 60), LineTo(&page->device, end.x(), end.y());
+            }
+            page->At(0, 0);
+        }
+        const int drawn = Count_Drawn(toolkit.image);
+        const int corners = 4 * (scale - 1);  // of dashes, which are cut another way
+        EXPECT_LE(Count_Without_Neighbour(direct.image, toolkit.image), corners) << scale;
+        EXPECT_LE(Count_Without_Neighbour(toolkit.image, direct.image), corners) << scale;
+        EXPECT_NEAR(Count_Drawn(direct.image), drawn, 0.05 * drawn) << scale;
+    }
 }
 
 }  // namespace
