@@ -14,12 +14,16 @@
 #include "chart/chart_view.h"
 #include "chart/current_chart.h"
 #include "chart/form4.h"
+#include "chart/printing.h"
 #include "platform/desktop/handlers.h"
+#include "platform/printer.h"
 #include "platform/program.h"
+#include "platform/timers.h"
 #include "platform/window.h"
 
-// skerrand_bench_desktop DEMO WORK SIMULATOR [--benchmark_...]: the chart on the screen, alone and
-// with an aircraft of SIMULATOR, which needs the databases of DEMO in WORK.
+// skerrand_bench_desktop DEMO WORK SIMULATOR [print] [--benchmark_...]: the chart on the screen,
+// alone and with an aircraft of SIMULATOR, which needs the databases of DEMO in WORK; and on the
+// default printer, if that has been asked for.
 
 namespace {
 
@@ -30,6 +34,7 @@ bench::Results results;
 std::vector<bench::Row> rows;
 
 QString simulator_program;
+bool prints = false;  // there is a printer for it
 
 constexpr auto Measured_Time = 20s;
 constexpr int Longest_Start = 10000;  // of the simulator, ms
@@ -53,6 +58,27 @@ void Show_On_Screen(benchmark::State& state) {
         bench::Time(state, bench::Clock::Wall, [] {
             skerrand::form4::Redraw();
             platform::Repaint(skerrand::form4::window);
+        });
+    }
+}
+
+void Print_Chart_To_Queue(benchmark::State& state) {
+    bench::Zoom_To(skerrand::Zoom_Airport);
+    for (auto _ : state)
+        bench::Time(state, bench::Clock::Wall, skerrand::form4::print_cht1_Click);
+    // A failure, which a message tells, leaves the timers stopped.
+    if (!platform::Is_Running(skerrand::form4::Chart_Refresher)) {
+        state.SkipWithError("the page is not printed");
+    }
+}
+
+/// What the printing service takes for a page with nothing on it.
+void Print_Nothing(benchmark::State& state) {
+    for (auto _ : state) {
+        bench::Time(state, bench::Clock::Wall, [&state] {
+            if (!platform::Start_Page("Nothing") || !platform::End_Document()) {
+                state.SkipWithError("no page is printed");
+            }
         });
     }
 }
@@ -122,6 +148,15 @@ void Run() {
                                   results.Median("chart/screen"), 0));
     bench::Run_Group("airspaces/draw", results);
     bench::Add_Airspace_Drawing_Rows(results, 12e-3, rows);
+    if (prints) {
+        bench::Run_Group("print", results);
+        rows.push_back(bench::Compared(results, "print that chart (an empty page)", "print/chart",
+                                       "print/nothing", 0));
+        rows.back().target = "under 1 s";
+        rows.back().met = results.Median("print/chart") < 1;
+        // A print minimises the window.
+        platform::Show(skerrand::form4::window);
+    }
     bench::Zoom_To(skerrand::Zoom_Airport);
     std::cout << "idle ..." << std::endl;
     Measure_Share([](double share) {
@@ -143,11 +178,14 @@ int main(int argc, char** argv) {
     if (arguments.size() < 3) bench::Give_Up("the arguments DEMO WORK SIMULATOR are missing");
     folders.demo = arguments[0];
     folders.work = arguments[1];
+    prints = arguments.size() > 3 && arguments[3] == "print";
     simulator_program = QString::fromStdString(std::filesystem::absolute(arguments[2]));
     std::filesystem::current_path(folders.work);
     bench::Register_Chart();
     bench::Register_Airspace_Drawing();
     bench::Register_Tick();
     bench::Register("chart/screen", Show_On_Screen);
+    bench::Register("print/chart", Print_Chart_To_Queue)->Iterations(2);
+    bench::Register("print/nothing", Print_Nothing)->Iterations(2);
     return platform::Run(argc, argv, Start);
 }

@@ -1,10 +1,16 @@
 #include "chart/chart_load.h"
 
+#include "app/form5.h"
+#include "app/form6.h"
 #include "app/messages.h"
 #include "chart/chart_view.h"
 #include "chart/current_chart.h"
 #include "chart/form4.h"
+#include "chart/printing.h"
+#include "keys/form7.h"
+#include "keys/form8.h"
 #include "platform/controls.h"
+#include "platform/program.h"
 #include "platform/timers.h"
 #include "selection/picks.h"
 #include "selection/rounding.h"
@@ -31,6 +37,14 @@ void Open_Simulator_Link() {
         "currently airport's chart.",
         platform::Icon::Exclamation);
     Close_Link();
+}
+
+/// The dialogs belong to the chart and go with it.
+void Close_Dialogs() {
+    for (const platform::Window* dialog :
+         {&form8::window, &form7::window, &form6::window, &form5::window}) {
+        platform::Unload(*dialog);
+    }
 }
 
 void Show_First_View() {
@@ -77,11 +91,19 @@ void Form_Load() {
     Reset_Display_Flags();
     platform::Start_Timer(Chart_Refresher);
     Show_Paused(false);
+    if (!Set_Up_Printer()) {
+        Show_Message(
+            "Your Microsoft Windows Version doesn't support the current API used by this program. "
+            "The program will shutdown.",
+            platform::Icon::Critical);
+        platform::End_Program();
+    }
 }
 
 void Form_Unload() {
     Close_Link();
     chart_view.link_open = false;
+    Close_Dialogs();
 }
 
 }  // namespace skerrand::form4

@@ -5,6 +5,7 @@
 #include "chart/form4.h"
 #include "platform/controls.h"
 #include "platform/drawing.h"
+#include "platform/printer.h"
 #include "selection/rounding.h"
 
 namespace skerrand {
@@ -38,6 +39,10 @@ void Show_Zoom_Rate() {
 Chart_Target Screen_Target() {
     return {platform::Window_Device(form4::window), chart_view.screen_width,
             chart_view.screen_height};
+}
+
+Chart_Target Printer_Target() {
+    return {platform::Printer_Device(), chart_view.printer_width, chart_view.printer_height};
 }
 
 Pixel_Point Project(const Chart_Target& target, double lat, double lon) {

@@ -18,12 +18,14 @@ inline constexpr std::int16_t Zoom_Nearest = 55;  ///< some 230 metres
 inline constexpr std::int16_t Zoom_Airport = 36;  ///< from here on the airport's own layers show
 
 struct Chart_View {
-    double view_left = 0;            ///< longitude at the left edge, degrees
-    double view_top = 0;             ///< latitude at the top edge
-    double view_right = 0;           ///< longitude at the right edge; may run past 180
-    double view_bottom = 0;          ///< latitude at the bottom edge; may run past -90
-    std::int32_t screen_width = 0;   ///< pixels across the window's outer frame
-    std::int32_t screen_height = 0;  ///< pixels down the window's outer frame
+    double view_left = 0;             ///< longitude at the left edge, degrees
+    double view_top = 0;              ///< latitude at the top edge
+    double view_right = 0;            ///< longitude at the right edge; may run past 180
+    double view_bottom = 0;           ///< latitude at the bottom edge; may run past -90
+    std::int32_t screen_width = 0;    ///< pixels across the window's outer frame
+    std::int32_t screen_height = 0;   ///< pixels down the window's outer frame
+    std::int32_t printer_width = 0;   ///< dots across the printer's sheet
+    std::int32_t printer_height = 0;  ///< dots down the printer's sheet
     std::int16_t zoom_rate = Zoom_Farthest;
     bool link_open = false;  ///< the link to the simulator is open
 };
@@ -48,6 +50,9 @@ struct Chart_Target {
 
 /// The chart window, at the size that was last read from it.
 Chart_Target Screen_Target();
+
+/// The printer's page, at the size of the sheet.
+Chart_Target Printer_Target();
 
 /// A place in pixels of the target, rounded half to even; outside the view it lies outside the
 /// target. Pixels past 32 bits (a damaged position) stop at their end.

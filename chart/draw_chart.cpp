@@ -47,4 +47,8 @@ void Draw_Chart() {
     Draw_Chart(Screen_Target());
 }
 
+void Print_Chart() {
+    Draw_Chart(Printer_Target());
+}
+
 }  // namespace skerrand

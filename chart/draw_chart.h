@@ -11,4 +11,7 @@ void Draw_Chart(const Chart_Target& target);
 /// The same on the chart window.
 void Draw_Chart();
 
+/// The same on the printer's page.
+void Print_Chart();
+
 }  // namespace skerrand

@@ -1,10 +1,15 @@
 #include "chart/form4.h"
 
+#include "app/form5.h"
+#include "app/form6.h"
 #include "chart/chart_load.h"
 #include "chart/chart_view.h"
 #include "chart/colours.h"
 #include "chart/current_chart.h"
-#include "chart/draw_chart.h"
+#include "chart/frequencies.h"
+#include "chart/printing.h"
+#include "keys/form7.h"
+#include "keys/key_poll.h"
 #include "platform/controls.h"
 #include "platform/timers.h"
 #include "selection/form3.h"
@@ -19,7 +24,9 @@ using platform::Find_Control;
 using enum platform::Control_Kind;
 
 void load_airpts_lst_Click();
-void Open_Dialog();
+void kb_assign1_Click();
+void pref1_Click();
+void skerrand_abot2_Click();
 
 constexpr Control controls[] = {
     {.name = "Label1",
@@ -62,7 +69,11 @@ constexpr Control controls[] = {
      .caption = "-",
      .handler = Command4_Click,
      .tab_index = 2},
-    {.name = "KeyPress_Checker", .kind = Timer, .interval = 1, .enabled = false},
+    {.name = "KeyPress_Checker",
+     .kind = Timer,
+     .handler = KeyPress_Checker_Timer,
+     .interval = 1,
+     .enabled = false},
     {.name = "Chart_Refresher",
      .kind = Timer,
      .handler = Chart_Refresher_Timer,
@@ -78,7 +89,7 @@ constexpr Control controls[] = {
      .kind = Menu,
      .in = "file_menu1",
      .caption = "Print Current Chart",
-     .handler = Open_Dialog},
+     .handler = print_cht1_Click},
     {.name = "view_chrt", .kind = Menu, .caption = "View"},
     {.name = "dp_airpt_chrt",
      .kind = Menu,
@@ -93,7 +104,8 @@ constexpr Control controls[] = {
     {.name = "show_all_cfreq",
      .kind = Menu,
      .in = "view_chrt",
-     .caption = "Show Current Airport's Frequencies"},
+     .caption = "Show Current Airport's Frequencies",
+     .handler = show_all_cfreq_Click},
     {.name = "op1", .kind = Menu, .caption = "Options"},
     {.name = "p_r_refresh",
      .kind = Menu,
@@ -104,14 +116,14 @@ constexpr Control controls[] = {
      .kind = Menu,
      .in = "op1",
      .caption = "Keyboard Assigments",
-     .handler = Open_Dialog},
-    {.name = "pref1", .kind = Menu, .in = "op1", .caption = "Preferences", .handler = Open_Dialog},
+     .handler = kb_assign1_Click},
+    {.name = "pref1", .kind = Menu, .in = "op1", .caption = "Preferences", .handler = pref1_Click},
     {.name = "abot2", .kind = Menu, .caption = "About"},
     {.name = "skerrand_abot2",
      .kind = Menu,
      .in = "abot2",
      .caption = "Skerrand v2.0",
-     .handler = Open_Dialog},
+     .handler = skerrand_abot2_Click},
 };
 
 }  // namespace
@@ -144,10 +156,22 @@ void load_airpts_lst_Click() {
     platform::Show(form3::window);
 }
 
-/// A dialog stands while both timers are off, and its end starts them.
-void Open_Dialog() {
+/// The chart stands still until the dialog starts its timers.
+void Open_Dialog(const platform::Window& dialog) {
     Stop_Timers();
-    Start_Timers();
+    platform::Show(dialog);
+}
+
+void kb_assign1_Click() {
+    Open_Dialog(form7::window);
+}
+
+void pref1_Click() {
+    Open_Dialog(form5::window);
+}
+
+void skerrand_abot2_Click() {
+    Open_Dialog(form6::window);
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include "platform/message_box.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QSpacerItem>
 
 #include "platform/desktop/handlers.h"
 #include "platform/desktop/text.h"
@@ -34,6 +36,15 @@ QWidget* Owner() {
     return owner;
 }
 
+/// A short text would make a box in which the window manager cuts the title.
+void Make_Room_For_Title(QMessageBox& box) {
+    constexpr int Icon_And_Buttons = 150;  // beside the title, in logical pixels
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid == nullptr) return;
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + Icon_And_Buttons;
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 }  // namespace
 
 void Message_Box(std::string_view text, Icon icon, std::string_view title) {
@@ -43,6 +54,7 @@ void Message_Box(std::string_view text, Icon icon, std::string_view title) {
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     QMessageBox box(To_Qt(icon), desktop::To_Qt(title), lines, QMessageBox::Ok, Owner());
     box.setTextFormat(Qt::PlainText);
+    Make_Room_For_Title(box);
     box.setWindowModality(Qt::ApplicationModal);
     if (desktop::Any_Topmost()) box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.exec();

@@ -8,6 +8,7 @@
 #include "platform/desktop/application.h"
 #include "platform/desktop/fonts.h"
 #include "platform/desktop/handlers.h"
+#include "platform/desktop/keys.h"
 #include "platform/desktop/program_icon.h"
 #include "platform/desktop/windows.h"
 
@@ -42,6 +43,7 @@ void desktop::Set_Up_Application() {
 void desktop::Begin(Handler start) {
     Destroy_Windows();
     Reset_Life();
+    Watch_Keys();
     const Handler_Scope scope;
     start();
 }

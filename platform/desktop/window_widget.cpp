@@ -97,7 +97,11 @@ void Window_Widget::Set_Input(bool enabled) {
 }
 
 void Window_Widget::Move_Outer(QPoint place) {
-    move((QPointF(place) / devicePixelRatioF()).toPoint());
+    const QPoint logical = (QPointF(place) / devicePixelRatioF()).toPoint();
+    move(logical);
+    // A widget that has never been moved takes itself for one at (0, 0) already, and would leave the
+    // place to the window manager.
+    if (windowHandle() != nullptr) windowHandle()->setFramePosition(logical);
 }
 
 void Window_Widget::Resize_Outer(QSize size) {

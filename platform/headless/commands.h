@@ -36,17 +36,17 @@ void Minimise_Command(Arguments arguments, Reply& reply);
 void Restore_Command(Arguments arguments, Reply& reply);
 void Close_Command(Arguments arguments, Reply& reply);
 void Untop_Command(Arguments arguments, Reply& reply);
+void Key_Command(Arguments arguments, Reply& reply);
 
 // Pictures and pages
 void Picture_Command(Arguments arguments, Reply& reply);
 void Pages_Command(Arguments arguments, Reply& reply);
+void Page_Command(Arguments arguments, Reply& reply);
 void Svg_Command(Arguments arguments, Reply& reply);
 
 // The surroundings
+void Printer_Command(Arguments arguments, Reply& reply);
 void Drives_Command(Arguments arguments, Reply& reply);
 void Simulator_Command(Arguments arguments, Reply& reply);
-
-/// A command whose part of the back-end does not exist.
-void Unbuilt_Command(Arguments arguments, Reply& reply);
 
 }  // namespace platform::headless

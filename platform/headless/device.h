@@ -21,6 +21,10 @@ struct Drawing_State {
     friend constexpr bool operator==(const Drawing_State&, const Drawing_State&) = default;
 };
 
+/// Height of a line of text, in pixels of the target.
+inline constexpr int Window_Text_Height = 16;
+inline constexpr int Page_Text_Height = 100;
+
 enum class Call_Kind : std::uint8_t { Line, Ellipse, Rectangle, Arc, Text };
 
 /// One drawing call. A line's numbers are its two ends, those of a text its point and the place and

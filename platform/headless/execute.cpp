@@ -50,14 +50,14 @@ constexpr Command commands[] = {
     {"restore", 1, Restore_Command},
     {"close", 1, Close_Command},
     {"untop", 1, Untop_Command},
-    {"key", 2, Unbuilt_Command},
+    {"key", 2, Key_Command},
 
     {"picture", 1, Picture_Command},
     {"pages", 0, Pages_Command, true},
-    {"page", 1, Unbuilt_Command, true},
+    {"page", 1, Page_Command, true},
     {"svg", 2, Svg_Command},
 
-    {"printer", 1, Unbuilt_Command},
+    {"printer", 1, Printer_Command},
     {"drives", 1, Drives_Command},
     {"simulator", 1, Simulator_Command},
 };
@@ -110,10 +110,6 @@ std::string Execute(std::string_view line) {
 
 bool Was_Quit() {
     return quit;
-}
-
-void Unbuilt_Command(Arguments, Reply& reply) {
-    Fail(reply, "not built yet");
 }
 
 }  // namespace platform::headless

@@ -13,7 +13,14 @@ std::string Call_Text(const Picture& picture, const Drawing_Call& call);
 /// "R,G,B".
 std::string Colour_Text(Colour colour);
 
-/// The picture as an SVG file of that size in pixels.
-std::string Svg_Text(const Picture& picture, int width, int height);
+/// Measures of a picture in its pixels.
+struct Svg_Measures {
+    int width = 0;
+    int height = 0;
+    int text_height = 0;
+};
+
+/// The picture as an SVG file.
+std::string Svg_Text(const Picture& picture, const Svg_Measures& measures);
 
 }  // namespace platform::headless

@@ -1,7 +1,9 @@
 #include "platform/headless/surroundings.h"
 
 #include "platform/headless/commands.h"
+#include "platform/headless/keys.h"
 #include "platform/headless/link.h"
+#include "platform/headless/printer.h"
 #include "platform/headless/simulator.h"
 #include "platform/headless/targets.h"
 
@@ -11,6 +13,8 @@ std::vector<std::string> drive_entries;
 
 void Reset_Surroundings() {
     drive_entries.clear();
+    Reset_Keys();
+    Reset_Printer();
     Reset_Simulator();
     Reset_Link();
 }

@@ -14,10 +14,13 @@ namespace platform::headless {
 
 namespace {
 
-/// A text stands 16 pixels high from its top left corner. A font of 13 pixels has about that line
-/// height, with its base line 13 pixels below the top.
-constexpr int Font_Pixels = 13;
-constexpr int Base_Line = 13;
+/// Size of a font by the height of its line, and the depth of its base line below the line's top.
+constexpr double Font_Size = 13.0 / 16;
+constexpr double Base_Line = 13.0 / 16;
+
+/// A dash and the gap behind it, likewise.
+constexpr double Dash = 12.0 / 16;
+constexpr double Gap = 6.0 / 16;
 
 std::string Attribute(std::string_view name, std::string_view value) {
     return std::string(" ").append(name).append("=\"").append(value).append("\"");
@@ -58,10 +61,13 @@ std::string Xml_Text(std::string_view text) {
     return To_Utf8(escaped);
 }
 
-std::string Stroke(const Drawing_State& state) {
+std::string Stroke(const Drawing_State& state, int text_height) {
     std::string text = Attribute("stroke", Rgb(state.pen_colour));
     if (state.pen_width > 1) text += Attribute("stroke-width", state.pen_width);
-    if (state.pen_style == Pen_Style::Dashed) text += Attribute("stroke-dasharray", "12 6");
+    if (state.pen_style == Pen_Style::Dashed) {
+        const std::string dashes = Number(Dash * text_height) + " " + Number(Gap * text_height);
+        text += Attribute("stroke-dasharray", dashes);
+    }
     return text;
 }
 
@@ -128,43 +134,46 @@ std::string Arc_Element(const Drawing_Call& call) {
            Attribute("d", "M " + Point_At(b, start) + " A " + radii + flags + Point_At(b, end));
 }
 
-std::string Text_Element(const Picture& picture, const Drawing_Call& call) {
+std::string Text_Element(const Picture& picture, const Drawing_Call& call, int text_height) {
     return "<text" + Attribute("x", call.numbers[0]) +
-           Attribute("y", static_cast<double>(call.numbers[1]) + Base_Line) +
+           Attribute("y", call.numbers[1] + Base_Line * text_height) +
            Attribute("fill", Rgb(picture.states[call.state].pen_colour)) + ">" +
            Xml_Text(Text_Of(picture, call)) + "</text>";
 }
 
-std::string Element(const Picture& picture, const Drawing_Call& call) {
+std::string Element(const Picture& picture, const Drawing_Call& call, int text_height) {
     const Drawing_State& state = picture.states[call.state];
+    const std::string stroke = Stroke(state, text_height);
     const auto& n = call.numbers;
     switch (call.kind) {
         case Call_Kind::Line:
-            return Line_Element(n[0], n[1], n[2], n[3]) + Stroke(state) + "/>";
+            return Line_Element(n[0], n[1], n[2], n[3]) + stroke + "/>";
         case Call_Kind::Ellipse:
-            return Ellipse_Element(Bounds_Of(call)) + Stroke(state) + Fill(state) + "/>";
+            return Ellipse_Element(Bounds_Of(call)) + stroke + Fill(state) + "/>";
         case Call_Kind::Rectangle:
-            return Rectangle_Element(Bounds_Of(call)) + Stroke(state) + Fill(state) + "/>";
+            return Rectangle_Element(Bounds_Of(call)) + stroke + Fill(state) + "/>";
         case Call_Kind::Arc:
-            return Arc_Element(call) + Stroke(state) + "/>";
+            return Arc_Element(call) + stroke + "/>";
         case Call_Kind::Text:
             break;
     }
-    return Text_Element(picture, call);
+    return Text_Element(picture, call, text_height);
 }
 
 }  // namespace
 
-std::string Svg_Text(const Picture& picture, int width, int height) {
-    std::string svg =
-        "<svg" + Attribute("xmlns", "http://www.w3.org/2000/svg") + Attribute("width", width) +
-        Attribute("height", height) + ">\n" +
-        Rectangle_Element({0, 0, static_cast<double>(width), static_cast<double>(height)}) +
-        Attribute("fill", "white") + "/>\n<g" + Attribute("fill", "none") +
-        Attribute("font-family", "MS Sans Serif, Arial, sans-serif") +
-        Attribute("font-size", Font_Pixels) + Attribute("xml:space", "preserve") + ">\n";
+std::string Svg_Text(const Picture& picture, const Svg_Measures& measures) {
+    const double width = measures.width;
+    const double height = measures.height;
+    std::string svg = "<svg" + Attribute("xmlns", "http://www.w3.org/2000/svg") +
+                      Attribute("width", width) + Attribute("height", height) + ">\n" +
+                      Rectangle_Element({0, 0, width, height}) + Attribute("fill", "white") +
+                      "/>\n<g" + Attribute("fill", "none") +
+                      Attribute("font-family", "MS Sans Serif, Arial, sans-serif") +
+                      Attribute("font-size", Font_Size * measures.text_height) +
+                      Attribute("xml:space", "preserve") + ">\n";
     for (const Drawing_Call& call : picture.calls)
-        svg += Element(picture, call) + "\n";
+        svg += Element(picture, call, measures.text_height) + "\n";
     return svg + "</g>\n</svg>\n";
 }
 

@@ -6,6 +6,8 @@
 
 #include "platform/drawing.h"
 #include "platform/files.h"
+#include "platform/keys.h"
+#include "platform/printer.h"
 #include "platform/timers.h"
 #include "tests/conformance/driver.h"
 #include "tests/conformance/windows.h"
@@ -371,6 +373,45 @@ TEST_F(Conformance, A_File_Is_Found_In_Any_Case_And_Read_Back_Whole) {
     EXPECT_EQ(names, std::vector<std::string>{"Conformance_T\xE9st.bin"});
     Delete_File("conformance_t\xE9st.bin");
     EXPECT_FALSE(File_Exists("Conformance_T\xE9st.bin"));
+}
+
+TEST_F(Conformance, A_Held_Key_Is_One_Press_And_One_That_Was_Let_Go_Is_Told_Once) {
+    const auto states = [](bool down) {
+        driver::Key(Main_Window, 'A', down);
+        const int first = GetAsyncKeyState('A');
+        return std::pair(first, static_cast<int>(GetAsyncKeyState('A')));
+    };
+    EXPECT_EQ(states(true), std::pair(0x8001, 0x8000));
+    EXPECT_EQ(states(true), std::pair(0x8000, 0x8000));
+    EXPECT_EQ(states(false), std::pair(0, 0));
+    driver::Key(Main_Window, 'A', true);
+    EXPECT_EQ(states(false), std::pair(1, 0));
+    for (const int code : {-1, 66, 256})
+        EXPECT_EQ(GetAsyncKeyState(code), 0);
+}
+
+TEST_F(Conformance, A_Page_Has_Its_Sheet_Its_Lines_And_Its_State_And_Ends_Once) {
+    EXPECT_EQ(Paper_Size().width, 0);
+    ASSERT_TRUE(Open_Printer());
+    Device_Context* device = Printer_Device();
+    ASSERT_NE(device, nullptr);
+    EXPECT_GE(Printer_Twips_To_Pixels_X(Paper_Size().width), Printable_Size().width);
+    EXPECT_GE(Printer_Twips_To_Pixels_Y(Paper_Size().height), Printable_Size().height);
+    EXPECT_GT(Printable_Size().width, 0);
+    EXPECT_GT(Text_Size("long").width, Text_Size("lo").width);
+    EXPECT_EQ(Text_Size("long").height, Text_Size("").height);
+
+    EXPECT_FALSE(End_Document());
+    for (int page = 0; page < 2; ++page) {
+        ASSERT_TRUE(Start_Page("Conformance"));
+        Rectangle(device, 0, 0, 1000, 1000);
+        Set_Text_Cursor(0, 0);
+        Print_Line("Caf\xE9");
+        EXPECT_TRUE(End_Document());
+        EXPECT_FALSE(End_Document());
+    }
+    for (const std::string& name : File_Names("", ".pdf"))
+        Delete_File(name);
 }
 
 }  // namespace

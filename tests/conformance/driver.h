@@ -40,6 +40,9 @@ void Minimise(const platform::Window& window);
 void Restore(const platform::Window& window);
 void Close(const platform::Window& window);
 
+/// A key goes down or up while the window has the focus; of a letter, by its virtual-key code.
+void Key(const platform::Window& window, int code, bool down);
+
 /// Every message box is answered by itself when it has stood for that long; 0 at each start.
 void Hold_Messages(int milliseconds);
 

@@ -165,6 +165,12 @@ void Close(const Window& window) {
     desktop::Find_Window(window)->close();
 }
 
+void Key(const Window& window, int code, bool down) {
+    // The toolkit numbers letters as the codes do.
+    QTest::sendKeyEvent(down ? QTest::Press : QTest::Release, desktop::Find_Window(window),
+                        static_cast<Qt::Key>(code), QString(), Qt::NoModifier);
+}
+
 void Hold_Messages(int milliseconds) {
     hold = milliseconds;
 }

@@ -148,6 +148,10 @@ void Close(const Window& window) {
     Do("close", window.name);
 }
 
+void Key(const Window&, int code, bool down) {
+    Do("key", std::to_string(code) + (down ? " down" : " up"));
+}
+
 void Hold_Messages(int) {}  // they are answered before any time has passed
 
 std::vector<Message> Take_Messages() {

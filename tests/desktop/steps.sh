@@ -6,9 +6,9 @@ set -u
 bin=$1
 folder=$2
 pictures=$folder/pictures
-step=0
-id=
 begun=()
+scripts=$(dirname "$(readlink -f "$0")")/../../scripts
+. "$scripts/hand.sh"
 
 if [ "${3:-}" != "on-screen" ]; then
     unset QT_QPA_PLATFORM QT_SCALE_FACTOR WAYLAND_DISPLAY
@@ -19,59 +19,6 @@ fail() {
     echo "FAILED: $1" >&2
     import -window root "$pictures/failure.png"
     exit 1
-}
-
-picture() {
-    step=$((step + 1))
-    import -window root "$(printf '%s/%02d-%s.png' "$pictures" $step "$1")"
-}
-
-# Waits up to 30 seconds for a condition.
-wait_for() {
-    for _ in $(seq 150); do
-        "${@:2}" > /dev/null 2>&1 && return
-        sleep 0.2
-    done
-    fail "$1"
-}
-
-shown() { xdotool search --onlyvisible --name "$1"; }
-
-# Sets `id` to the window of that title.
-window() {
-    wait_for "no window \"$1\"" shown "$1"
-    id=$(shown "$1" | tail -1)
-    sleep 0.4
-}
-
-# A click at a point inside a window, in pixels.
-click() {
-    xdotool mousemove --window "$1" "$2" "$3"
-    sleep 0.1
-    xdotool click 1
-    sleep "${4:-0.4}"
-}
-
-keys() {
-    xdotool key --delay 60 "$@"
-    sleep 0.4
-}
-
-answer() {
-    window '^Skerrand Message$'
-    picture "$1"
-    xdotool mousemove --window "$id" 20 5
-    keys Return
-}
-
-# Finds an airport by typing a part of its name into the combo box at that height.
-pick() {
-    click "$1" 150 "$2"
-    keys ctrl+a
-    xdotool type --delay 40 "$3"
-    sleep 0.6
-    picture "typed-$3"
-    keys Down Return
 }
 
 # Waits for the program to end by itself, as it should.

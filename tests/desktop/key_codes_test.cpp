@@ -1,0 +1,95 @@
+// From the keys of a keyboard, as the X server and the toolkit tell of them, to virtual-key codes.
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWidget>
+#include <gtest/gtest.h>
+#include <vector>
+
+#include "platform/desktop/keys.h"
+#include "platform/keys.h"
+
+namespace platform::desktop {
+
+namespace {
+
+struct Row {
+    const char* key;
+    std::vector<std::uint32_t> keysyms;
+    Key_Codes codes;
+};
+
+TEST(Key_Codes, No_Layout_Moves_A_Key_To_A_Wrong_Code) {
+    const Row rows[] = {
+        {"letter", {'q', 'Q'}, {81}},
+        {"French digit row", {'&', '1', 0xb9}, {49}},
+        {"French digit row, a key that gives a minus", {'-', '6', '|'}, {54}},
+        {"Cyrillic letter with Latin in the second group", {0x6c6, 0x6e6, 'a', 'A'}, {65}},
+        {"German plus, with a tilde on its third level", {'+', '*', '~'}, {187}},
+        {"comma", {',', '<'}, {188}},
+        {"bracket", {']', '}'}, {221}},
+        {"less, beside the left Shift", {'<', '>', '|'}, {226}},
+        {"keypad 7 without Num Lock first", {0xff95, 0xffb7}, {103}},
+        {"keypad point of a German keyboard", {0xff9f, 0xffac}, {110}},
+        {"keypad plus", {0xffab, 0xffab}, {107}},
+        {"keypad Enter", {0xff8d}, {13}},
+        {"Home that is no keypad's", {0xff50}, {36}},
+        {"End", {0xff57}, {35}},
+        {"F24", {0xffd5}, {135}},
+        {"Pause, with Break on a level of it", {0xff13, 0xff6b}, {19}},
+        {"Print, with Sys_Req on a level of it", {0xff61, 0xff15}, {44}},
+        {"right Control", {0xffe4}, {163, 17}},
+        {"Alt Gr", {0xfe03}, {165, 18}},
+        {"a key without a code", {0, 0x1008ff11}, {}},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(Codes_Of(row.keysyms), row.codes) << row.key;
+    EXPECT_EQ(Codes_Of_Place(47), Key_Codes{186}) << "German o with dots";
+    EXPECT_EQ(Codes_Of_Place(24), Key_Codes{});
+}
+
+TEST(Keys, A_Press_Counts_Once_And_The_Code_Of_A_Pair_Stays_While_One_Is_Held) {
+    Watch_Keys();
+    Find_Key_Down(9, {27});
+    Press_Key(9, {27});  // repeats itself
+    EXPECT_EQ(GetAsyncKeyState(27), Key_Down);
+    Press_Key(50, {160, 16});
+    Press_Key(62, {161, 16});
+    Release_Key(50);
+    EXPECT_EQ(GetAsyncKeyState(160), Key_Was_Pressed);
+    EXPECT_EQ(GetAsyncKeyState(16), Key_Down | Key_Was_Pressed);
+    Press_Key(62, {161, 16});
+    EXPECT_EQ(GetAsyncKeyState(16), Key_Down);
+    Release_Key(62);
+    EXPECT_EQ(GetAsyncKeyState(16), 0);
+}
+
+/// Asks for the state of the keypad's plus when it is pressed, before its parent gets the event.
+struct Asking_Widget final : QWidget {
+    using QWidget::QWidget;
+    void keyPressEvent(QKeyEvent* event) override {
+        state = GetAsyncKeyState(107);
+        event->ignore();
+    }
+    int state = 0;
+};
+
+TEST(Keys, One_Key_In_A_Window_Is_One_Press_Though_Its_Parent_Sees_It_Too) {
+    QWidget window;
+    Asking_Widget child(&window);
+    Watch_Keys();
+    const auto send = [&child](QEvent::Type type, bool repeats) {
+        QKeyEvent event(type, Qt::Key_Plus, Qt::KeypadModifier, QString(), repeats);
+        QCoreApplication::sendEvent(&child, &event);
+        return GetAsyncKeyState(107);
+    };
+    EXPECT_EQ(send(QEvent::KeyPress, false), Key_Down);
+    EXPECT_EQ(child.state, Key_Down | Key_Was_Pressed);
+    EXPECT_EQ(send(QEvent::KeyRelease, true), Key_Down);
+    EXPECT_EQ(send(QEvent::KeyPress, true), Key_Down);
+    EXPECT_EQ(send(QEvent::KeyRelease, false), 0);
+}
+
+}  // namespace
+
+}  // namespace platform::desktop
