@@ -99,8 +99,8 @@ void Window_Widget::Set_Input(bool enabled) {
 void Window_Widget::Move_Outer(QPoint place) {
     const QPoint logical = (QPointF(place) / devicePixelRatioF()).toPoint();
     move(logical);
-    // A widget that has never been moved takes itself for one at (0, 0) already, and would leave the
-    // place to the window manager.
+    // A widget that has never been moved takes itself for one at (0, 0) already, and would leave
+    // the place to the window manager.
     if (windowHandle() != nullptr) windowHandle()->setFramePosition(logical);
 }
 

@@ -19,28 +19,21 @@ void Note(char name) {
 
 using enum Control_Kind;
 
+void Note_And_Wait() {
+    Note('w');
+    if (headless::Clock() == 50) Sleep(75);
+}
+
 constexpr Control first_controls[] = {
     {.name = "A", .kind = Timer, .handler = [] { Note('a'); }, .interval = 30},
-    {.name = "B", .kind = Timer, .handler = [] { Note('b'); }, .interval = 20},
-};
-constexpr Window First = {"First", "", 1500, 1500, first_controls};
-
+    {.name = "B", .kind = Timer, .handler = [] { Note('b'); }, .interval = 20}};
 constexpr Control second_controls[] = {
-    {.name = "C", .kind = Timer, .handler = [] { Note('c'); }, .interval = 20},
-};
-constexpr Window Second = {"Second", "", 1500, 1500, second_controls};
-
+    {.name = "C", .kind = Timer, .handler = [] { Note('c'); }, .interval = 20}};
 constexpr Control waiting_controls[] = {
-    {.name = "W",
-     .kind = Timer,
-     .handler =
-         [] {
-             Note('w');
-             if (headless::Clock() == 50) Sleep(75);
-         },
-     .interval = 50},
-    {.name = "D", .kind = Timer, .handler = [] { Note('d'); }, .interval = 20},
-};
+    {.name = "W", .kind = Timer, .handler = Note_And_Wait, .interval = 50},
+    {.name = "D", .kind = Timer, .handler = [] { Note('d'); }, .interval = 20}};
+constexpr Window First = {"First", "", 1500, 1500, first_controls};
+constexpr Window Second = {"Second", "", 1500, 1500, second_controls};
 constexpr Window Waiting = {"Waiting", "", 1500, 1500, waiting_controls};
 
 TEST(Timers, Ticks_Come_By_Time_Then_By_Loading_Then_By_Table) {

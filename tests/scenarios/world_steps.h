@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -11,7 +12,8 @@
 ///     folder PATH                   makes a folder, and those above it
 ///     write FILE TEXT               a file with that text and no line end
 ///     truncate FILE SIZE
-///     exists PATH, missing PATH, same FILE FILE, size FILE SIZE
+///     exists PATH, missing PATH, same FILE FILE
 ///
 /// A text has words parted by one blank. Answers an empty text, or what went wrong.
-std::string Do_Step(const std::vector<std::string>& words, const std::string& make_world);
+std::string Do_File_Step(const std::vector<std::string>& words,
+                         const std::filesystem::path& make_world);

@@ -1,50 +1,125 @@
 #pragma once
 
-#include <cstdint>
+#include <algorithm>
+#include <bit>
 #include <initializer_list>
+#include <iterator>
 #include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
 
-#include "platform/files.h"
+#include "app/settings.h"
+#include "scenery/bgl_reader.h"
+#include "scenery/tables.h"
 
 /// Images of BGL files, built from the bytes of their parts.
 namespace skerrand::bgl {
 
 using platform::Bytes;
 
-Bytes Longs(std::initializer_list<std::int64_t> values);
-Bytes Text(std::string_view text);
-Bytes Join(const std::vector<Bytes>& parts);
-std::int64_t Single(float value);  ///< its bits, for `Longs`
+inline Bytes Longs(std::initializer_list<std::int64_t> values) {
+    Bytes bytes;
+    for (const std::int64_t value : values)
+        for (int shift = 0; shift < 32; shift += 8)
+            bytes.push_back(static_cast<std::uint8_t>(value >> shift & 0xFF));
+    return bytes;
+}
+
+inline Bytes Text(std::string_view text) {
+    return {text.begin(), text.end()};
+}
+
+inline Bytes Join(const std::vector<Bytes>& parts) {
+    Bytes all;
+    for (const Bytes& part : parts)
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+inline Bytes Prefix(const Bytes& bytes, std::size_t length) {
+    return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)};
+}
+
+/// Lays a part over what stands from `at` on.
+inline void Put(Bytes& bytes, std::size_t at, const Bytes& part) {
+    bytes.resize(std::max(bytes.size(), at + part.size()));
+    std::copy(part.begin(), part.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at));
+}
 
 /// Head and body. `size` stands in the head, the true one if it is not given.
-Bytes Record(std::int32_t type, const Bytes& body, std::optional<std::int32_t> size = {});
+inline Bytes Record(std::int32_t type, const Bytes& body, std::optional<std::int32_t> size = {}) {
+    return Join({Longs({type, size ? *size : std::ssize(body)}), body});
+}
 
 // Records of an airport block. Positions and angles are as stored.
-Bytes Position(std::int32_t lat, std::int32_t lon);
-Bytes Icao(std::string_view text);
-Bytes Com(std::int32_t type, std::int32_t code);
+
+inline Bytes Position(std::int32_t lat, std::int32_t lon) {
+    return Record(0x10001, Longs({0, lat, 0, lon}));
+}
+
+inline Bytes Icao(std::string_view text) {
+    return Record(0x10006, Text(text));
+}
+
+inline Bytes Com(std::int32_t type, std::int32_t code) {
+    return Record(0x20001, Longs({code, type}));
+}
+
 struct Runway_Fields {
     std::int32_t lat = 0, lon = 0, elevation = 0, heading = 0;
     std::int32_t length = 500, width = 100, designator = 0, number = 9;
 };
-Bytes Runway(const Runway_Fields& fields);
-Bytes Aid(std::int32_t lat, std::int32_t lon, std::int32_t course, std::int32_t freq,
-          std::int32_t kind, std::string_view name);
-Bytes Taxi(const std::vector<Bytes>& lists);
+inline Bytes Runway(const Runway_Fields& f) {
+    return Record(0x10002, Longs({0, f.lat, 0, f.lon, 0, f.elevation, f.heading, 0, f.length,
+                                  f.width, f.designator, f.number}));
+}
 
-// Lists of a taxi block.
-Bytes Points(const std::vector<Bytes>& points);
-Bytes Parkings(const std::vector<Bytes>& parkings);
-Bytes Paths(const std::vector<Bytes>& paths);
-Bytes Names(const std::vector<std::string>& names);
+inline Bytes Aid(std::int32_t lat, std::int32_t lon, std::int32_t course, std::int32_t freq,
+                 std::int32_t kind, std::string_view name) {
+    const Bytes fields = Longs({0, lat, 0, lon, 0, 0, course, freq, kind, 0, 0, 0});
+    return Record(0x10004, Join({fields, Text(name)}));
+}
 
-// Elements of the lists.
-Bytes Point(std::int32_t kind, float x, float z);
-Bytes Parking(float x, float z, float radius, std::int32_t packed);
-Bytes Path(std::int32_t kind, std::int32_t start, std::int32_t end, std::int32_t name);
+/// Of the lists below.
+inline Bytes Taxi(const std::vector<Bytes>& lists) {
+    return Record(0x11001, Join(lists));
+}
+
+inline Bytes List(std::int32_t element_size, const std::vector<Bytes>& elements) {
+    return Join({Longs({std::ssize(elements), element_size}), Join(elements)});
+}
+
+inline std::int64_t Single(float value) {
+    return std::bit_cast<std::int32_t>(value);
+}
+
+inline Bytes Point(std::int32_t kind, float x, float z) {
+    return Longs({kind, Single(x), Single(z)});
+}
+inline Bytes Points(const std::vector<Bytes>& points) {
+    return List(12, points);
+}
+
+inline Bytes Parking(float x, float z, float radius, std::int32_t packed) {
+    return Longs({Single(x), Single(z), Single(radius), 0, packed});
+}
+inline Bytes Parkings(const std::vector<Bytes>& parkings) {
+    return List(20, parkings);
+}
+
+inline Bytes Path(std::int32_t kind, std::int32_t start, std::int32_t end, std::int32_t name) {
+    return Longs({kind, 0, 0, start, end, 0, 0, name});
+}
+inline Bytes Paths(const std::vector<Bytes>& paths) {
+    return List(32, paths);
+}
+
+inline Bytes Names(const std::vector<std::string>& names) {
+    std::vector<Bytes> elements;
+    for (const std::string& name : names) {
+        elements.push_back(Text(name));
+        elements.back().resize(8);
+    }
+    return List(8, elements);
+}
 
 struct Block {
     std::string name;  ///< display name of the airport
@@ -52,12 +127,60 @@ struct Block {
 };
 
 /// A whole file; an empty airspace section is none.
-Bytes Image(const std::vector<Block>& airports, const Bytes& airspaces = {});
+inline Bytes Image(const std::vector<Block>& airports, const Bytes& airspaces = {}) {
+    constexpr std::int64_t header = 168;
+    const Bytes end = Longs({0x99999});
+    std::size_t target = std::size_t{header} + 24 + 8;
+    for (const Block& airport : airports)
+        target += 16 + airport.name.size();
+    Bytes entries, blocks;
+    for (const Block& airport : airports) {
+        const auto place = static_cast<std::int64_t>(target + blocks.size());
+        const Bytes entry = Join({Longs({0x50001, place}), Text(airport.name)});
+        entries = Join({entries, Record(0x30002, entry)});
+        blocks = Join({blocks, Longs({1, 0, 1, 0}), airport.records, end});
+    }
+    const Bytes list = Record(0x30001, Join({Longs({0, 0, 0, std::ssize(airports) - 1}), entries}));
+    Bytes file = Join({Bytes(header), list, end, Longs({0}), blocks});
+    Put(file, 0x76, Longs({0x87654321}));
+    Put(file, 0x90, Longs({1, 0, 0, airports.empty() ? 0 : header}));
+    if (airspaces.empty()) return file;
+    Put(file, 0xA4, Longs({std::ssize(file)}));
+    return Join({file, airspaces, end});
+}
 
-Bytes Group(std::int32_t kind = 4);  ///< top-level entry of the airspace section
-Bytes Sample();                      ///< a sound file with every kind of record
+/// Top-level entry of the airspace section.
+inline Bytes Group(std::int32_t kind = 4) {
+    return Record(1, Longs({kind, 0, 0x99999, 0}));
+}
+
+/// A sound file with every kind of record.
+inline Bytes Sample() {
+    const Bytes taxi =
+        Taxi({Points({Point(1, 10, -20), Point(1, 0, 35.5F), Point(5, -700, 0)}),
+              Parkings({Parking(15, 25, 12, 0x800605), Parking(-40, -5, 0.5F, 0xA00090)}),
+              Paths({Path(0, 0, 1, 1), Path(1, 1, 2, 0), Path(2, 2, 0, 0)}), Names({"", "B"})});
+    const Bytes large =
+        Join({Position(5000875, 0x40000000), Icao("lxgb"), Com(6, 0x01213000), Com(1, 0x01180000),
+              Runway({5000875, 0x40000000, 3, 0x40000000, 6000, 150, 1, 9}),
+              Aid(5000000, 0x40000001, 0x40000000, 0x01095000, 4, "ILS 09"), taxi,
+              Record(0x10003, Longs({7})), Record(0x10005, {})});
+    const Bytes small = Join({Position(-900000, -70000000), Icao("2W3"), Runway({}), taxi});
+    return Image({{"North Front", large}, {"Strip", small}, {"Nothing", {}}},
+                 Join({Record(0x30001, Longs({0})), Group(2), Group(), Group()}));
+}
 
 /// Puts a file in hand for a scan, with the tables empty.
-void Load(const Bytes& file);
+inline void Load(const Bytes& file) {
+    bgl_bytes = file;
+    bgl_bytes.push_back(0);
+    current_file = "c:\\sim\\scenery\\a.bgl";
+    Release_Airport_Table();
+    airport_count = 0;
+    Release_Airspace_Files();
+    airspace_file_count = 0;
+    first_run = true;
+    database_ready = false;
+}
 
 }  // namespace skerrand::bgl

@@ -1,56 +1,39 @@
 #include "scenery/database.h"
 
 #include <cmath>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "app/settings.h"
-#include "scenery/tables.h"
+#include "tests/scenery/bgl_builder.h"
 
 namespace skerrand {
 namespace {
 
-using platform::Bytes;
+using bgl::Bytes, bgl::Join, bgl::Longs, bgl::Prefix;
 
-template <typename... Part>
-Bytes Join(Part... parts) {
-    Bytes all;
-    (all.insert(all.end(), parts.begin(), parts.end()), ...);
-    return all;
-}
-
-template <typename Number>
-Bytes Packed(std::initializer_list<Number> numbers) {
-    Bytes bytes(numbers.size() * sizeof(Number));
-    std::memcpy(bytes.data(), std::data(numbers), bytes.size());
-    return bytes;
-}
-
-Bytes Word(int value) {
-    return Packed({static_cast<std::int16_t>(value)});
-}
-Bytes Longs(std::initializer_list<std::int32_t> values) {
-    return Packed(values);
+Bytes Word(std::int64_t value) {
+    return Prefix(Longs({value}), 2);
 }
 Bytes Doubles(std::initializer_list<double> values) {
-    return Packed(values);
+    Bytes bytes;
+    for (const double value : values) {
+        const auto bits = std::bit_cast<std::int64_t>(value);
+        bytes = Join({bytes, Longs({bits, bits >> 32})});
+    }
+    return bytes;
 }
 Bytes Text(std::string_view text) {
-    return Join(Word(static_cast<int>(text.size())), Bytes(text.begin(), text.end()));
+    return Join({Word(std::ssize(text)), bgl::Text(text)});
 }
 Bytes Array(std::int32_t size) {
-    return Join(Word(1), Longs({size, 0}));
-}
-
-Bytes Prefix(const Bytes& bytes, std::size_t length) {
-    return {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)};
+    return Join({Word(1), Longs({size, 0})});
 }
 
 constexpr std::size_t Last_Record = 64;
 
 /// An airport with one of everything, every field different.
 Airport_Info Full_Airport() {
+    const std::vector<Runway_Info> runways{{"9L", "27R", 3, 4, 5, 6, 7, 8, 9, 10, 11}};
     return {"Name",
             "ICAO",
             1.5,
@@ -62,7 +45,7 @@ Airport_Info Full_Airport() {
             "a",
             "n",
             "i",
-            {{"9L", "27R", 3, 4, 5, 6, 7, 8, 9, 10, 11}},
+            runways,
             {{"ILS", 12, 13, 14, "109.5"}},
             {{15, 16, 17}},
             {{"GATE 1", 18, 19, 20}},
@@ -79,20 +62,20 @@ std::vector<Airport_Info> Sample() {
 }
 
 TEST(Database, FieldOutOfItsPlace) {
-    const Bytes runways = Join(Array(2), Text("9L"), Text("27R"), Doubles({3, 4, 5, 6}), Longs({7}),
-                               Word(8), Word(9), Longs({10, 11}), Bytes(2 + 2 + 48), Longs({1}));
-    const Bytes ils = Join(Array(2), Text("ILS"), Doubles({12, 13}), Word(14), Text("109.5"),
-                           Bytes(2 + 18 + 2), Longs({1}));
-    const Bytes points = Join(Array(1), Longs({15}), Doubles({16, 17}), Longs({1}));
-    const Bytes parkings = Join(Array(1), Text("GATE 1"), Doubles({18, 19}), Longs({20, 1}));
-    const Bytes paths = Join(Array(1), Longs({21, 22, 23}), Text("B"), Longs({1}));
-    const Bytes expected = Join(Text("Name"), Text("ICAO"), Doubles({1.5, -2.5}), Text("c"),
-                                Text("g"), Text("t"), Text("d"), Text("a"), Text("n"), Text("i"),
-                                runways, ils, points, parkings, paths, Bytes(Last_Record));
+    const Bytes runways =
+        Join({Array(2), Text("9L"), Text("27R"), Doubles({3, 4, 5, 6}), Longs({7}), Word(8),
+              Word(9), Longs({10, 11}), Bytes(2 + 2 + 48), Longs({1})});
+    const Bytes ils = Join({Array(2), Text("ILS"), Doubles({12, 13}), Word(14), Text("109.5"),
+                            Bytes(2 + 18 + 2), Longs({1})});
+    const Bytes points = Join({Array(1), Longs({15}), Doubles({16, 17}), Longs({1})});
+    const Bytes parkings = Join({Array(1), Text("GATE 1"), Doubles({18, 19}), Longs({20, 1})});
+    const Bytes paths = Join({Array(1), Longs({21, 22, 23}), Text("B"), Longs({1})});
+    const Bytes expected = Join({Text("Name"), Text("ICAO"), Doubles({1.5, -2.5}), Text("c"),
+                                 Text("g"), Text("t"), Text("d"), Text("a"), Text("n"), Text("i"),
+                                 runways, ils, points, parkings, paths, Bytes(Last_Record)});
     EXPECT_EQ(Airport_Table_Bytes(std::vector{Full_Airport()}), expected);
     EXPECT_EQ(Airport_Table_Bytes({}), Bytes(Last_Record));
-    EXPECT_EQ(Airspace_List_Bytes(std::vector<std::string>{"a.bgl"}),
-              Join(Text("a.bgl"), Text("")));
+    EXPECT_EQ(Airspace_List_Bytes(std::vector<std::string>{"a"}), Join({Text("a"), Text("")}));
     EXPECT_EQ(Airspace_List_Bytes({}), Bytes(2));
 }
 
@@ -121,10 +104,10 @@ TEST(Database, CountThatTheFileCannotHold) {
                                      std::numeric_limits<std::int32_t>::max()}) {
         EXPECT_FALSE(Parse_Airport_Table(bytes, count, airports)) << count;
     }
-    for (const std::int32_t count : {2, 4}) {
-        ASSERT_TRUE(Parse_Airport_Table(bytes, count, airports)) << count;
+    for (const std::size_t count : {2U, 4U}) {
+        ASSERT_TRUE(Parse_Airport_Table(bytes, static_cast<std::int32_t>(count), airports));
         std::vector<Airport_Info> expected = Sample();
-        expected.resize(static_cast<std::size_t>(count));
+        expected.resize(count);
         EXPECT_EQ(airports, expected) << count;
     }
 }
@@ -134,11 +117,7 @@ TEST(Database, DamageInsideARecordTakenForData) {
     const std::size_t runways = 2 + 4 + 2 + 4 + 16 + 7 * 3;
     const Bytes no_number = Doubles({std::nan("")});
     const Bytes infinite = Doubles({std::numeric_limits<double>::infinity()});
-    struct {
-        const char* what;
-        std::size_t at;
-        Bytes bytes;
-    } const cases[] = {
+    const std::tuple<const char*, std::size_t, Bytes> cases[] = {
         {"latitude", 12, no_number},
         {"longitude", 20, infinite},
         {"dimensions", runways, Word(2)},
@@ -154,20 +133,19 @@ TEST(Database, DamageInsideARecordTakenForData) {
     };
     std::vector<Airport_Info> airports;
     ASSERT_TRUE(Parse_Airport_Table(good, 1, airports));
-    for (const auto& c : cases) {
+    for (const auto& [what, at, bytes] : cases) {
         Bytes bad = good;
-        std::copy(c.bytes.begin(), c.bytes.end(), bad.begin() + static_cast<std::ptrdiff_t>(c.at));
-        EXPECT_FALSE(Parse_Airport_Table(bad, 1, airports)) << c.what;
-        EXPECT_TRUE(airports.empty()) << c.what;
+        bgl::Put(bad, at, bytes);
+        EXPECT_FALSE(Parse_Airport_Table(bad, 1, airports)) << what;
+        EXPECT_TRUE(airports.empty()) << what;
     }
-    const Bytes only_spare = Join(Bytes(34), Array(1), Bytes(52 + 4 + 4 * 6 + Last_Record));
+    const Bytes only_spare = Join({Bytes(34), Array(1), Bytes(52 + 4 + 4 * 6 + Last_Record)});
     EXPECT_FALSE(Parse_Airport_Table(only_spare, 1, airports));
 }
 
 TEST(Database, ChangedByteReadsBackOtherwiseTheSecondTime) {
     const Bytes good = Airport_Table_Bytes(Sample());
-    std::vector<Airport_Info> airports;
-    std::vector<Airport_Info> again;
+    std::vector<Airport_Info> airports, again;
     for (std::size_t at = 0; at < good.size(); ++at) {
         for (const char change : "\x01\x02\x40\x80\xFF") {
             Bytes bad = good;
@@ -188,30 +166,6 @@ TEST(Database, TextTooLongForItsLengthShiftsTheFieldsBehind) {
     airports[0].airport_name.resize(65535);
     airports[0].taxi_paths[0].name.resize(65535);
     EXPECT_EQ(read, airports);
-}
-
-TEST(Database, TablesDoNotSurviveTheirFiles) {
-    app_path = testing::TempDir();
-    app_path.pop_back();
-    airport_table = Sample();
-    airport_count = 3;
-    airspace_files = {"a", "b"};
-    airspace_file_count = 2;
-    ASSERT_EQ(Write_Airport_Table(), "");
-    ASSERT_EQ(Write_Airspace_List(), "");
-    Release_Airport_Table();
-    Release_Airspace_Files();
-    EXPECT_TRUE(Read_Airport_Table());
-    EXPECT_TRUE(Read_Airspace_List());
-    EXPECT_EQ(airport_table, Sample());
-    EXPECT_EQ(airspace_files, (std::vector<std::string>{"a", "b"}));
-
-    platform::Delete_File(Own_File(Airports_File));
-    platform::Delete_File(Own_File(Airspaces_File));
-    EXPECT_FALSE(Read_Airport_Table());
-    EXPECT_FALSE(Read_Airspace_List());
-    EXPECT_TRUE(airport_table.empty() && airspace_files.empty());
-    EXPECT_EQ(airport_count, 3);
 }
 
 }  // namespace

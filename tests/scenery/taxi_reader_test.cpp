@@ -34,13 +34,11 @@ TEST(Taxi_Reader, Lists_Read_Or_Replaced_Wrongly) {
     const Bytes parkings = Parkings({Parking(0, 1852, 30.48F, 0x800605)});
     const Bytes paths = Paths({Path(0, 0, 1, 1), Path(1, 1, 0, 0), Path(2, 3, 4, 1),
                                Path(1, 0, 0, 1), Path(1, 0, 0, 2), Path(9, 0, 0, -1)});
-    const Airport_Info airport = Read(Join({
-        Position(5000875, 333),
-        Runway({.designator = 1}),
-        Taxi({points, parkings, paths, Longs({0, 12}), Longs({-5, 20}), Names({"X", "A"}),
-              Points({Point(1, 5, 5)})}),
-        Taxi({Points({Point(3, 0, 0)}), Longs({1, 16, 0, 0, 0, 0})}),
-    }));
+    const Airport_Info airport =
+        Read(Join({Position(5000875, 333), Runway({.designator = 1}),
+                   Taxi({points, parkings, paths, Longs({0, 12}), Longs({-5, 20}),
+                         Names({"X", "A"}), Points({Point(1, 5, 5)})}),
+                   Taxi({Points({Point(3, 0, 0)}), Longs({1, 16, 0, 0, 0, 0})})}));
     ASSERT_EQ(airport.taxi_points.size(), 1U) << "the second block's list";
     EXPECT_EQ(airport.taxi_points[0].kind, 3);
     EXPECT_EQ(airport.taxi_points[0].lon, airport.lon) << "the same to the bit";
@@ -65,10 +63,9 @@ TEST(Taxi_Reader, Block_Ends_Too_Early_Or_Too_Late) {
         {"paths behind the names", Taxi({names, paths}), "", "END"},
         {"no names", Taxi({paths}), "0|0|", "END"},
         {"empty names still name runways", Taxi({paths, Longs({-1, 8})}), "0|Runway 9|", "END"},
-        {"unknown list", Taxi({paths, Longs({1, 10, 0}), names}), "0|0|", "END"},
         {"unknown empty list", Taxi({paths, Longs({0, 0}), names}), "0|0|", "END"},
         {"fault in a list", Taxi({paths, Longs({1000, 32})}), "0|0|", ""},
-        {"fault in a huge list", Taxi({paths, Longs({0x7FFFFFFF, 32})}), "0|0|", ""},
+        {"fault of a huge count", Taxi({paths, Longs({0x7FFFFFFF, 32})}), "0|0|", ""},
         {"fault in the names", Taxi({paths, Longs({1000, 8})}), "0|0|", ""},
         {"lists behind the end", Record(0x11001, Join({paths, names}), 0), "A|Runway 9|", ""},
     };
@@ -107,10 +104,9 @@ void Name_Taxiways_Plainly(const std::vector<std::string>& names, std::vector<Ta
 }
 
 TEST(Taxi_Names, Chain_Of_Numbers_Cut_Or_Looped) {
-    const std::vector<std::string> words{
-        "",  "A", "07", "-1", "4294967296", " 2", "0",
-        "1", "2", "3",  "4",  "5",          "6",  "7",
-        "8", "9", "10", "11", "12",         "13", "18446744073709551617"};
+    std::vector<std::string> words{"", "A", "07", "-1", " 2", "4294967296", "18446744073709551617"};
+    for (int number = 0; number < 14; ++number)
+        words.push_back(std::to_string(number));
     std::mt19937 random(1);
     for (int round = 0; round < 3000; ++round) {
         std::vector<Taxi_Path> paths(random() % 12);
@@ -129,11 +125,14 @@ TEST(Taxi_Names, Chain_Of_Numbers_Cut_Or_Looped) {
     }
 }
 
+std::uint64_t Bits(double value) {
+    return std::bit_cast<std::uint64_t>(value);
+}
+
 TEST(Local_Grid, Differs_From_The_Plain_Calculation) {
     std::mt19937_64 random(2);
     const double places[] = {0, -0.0, 90, -90, 180, -180, 45, 89.9999999, 179.9999999, 19000};
-    std::uniform_real_distribution<double> degrees(-180, 180);
-    std::uniform_real_distribution<double> power(-45, 38);
+    std::uniform_real_distribution<double> degrees(-180, 180), power(-45, 38);
     for (int round = 0; round < 200000; ++round) {
         const double lat = round % 8 == 0 ? places[random() % 10] : degrees(random) / 2;
         const double lon = round % 16 < 2 ? places[random() % 10] : degrees(random);
@@ -142,15 +141,10 @@ TEST(Local_Grid, Differs_From_The_Plain_Calculation) {
         for (const double d : {metres, -metres}) {
             const double x = Destination_Meters(lat, lon, d > 0 ? 90 : 270, d).lon;
             const double z = Destination_Meters(lat, lon, d > 0 ? 0 : 180, d).lat;
-            ASSERT_EQ(std::bit_cast<std::uint64_t>(Grid_Longitude(grid, d)),
-                      std::bit_cast<std::uint64_t>(x))
-                << lat << ' ' << lon << ' ' << d;
-            ASSERT_EQ(std::bit_cast<std::uint64_t>(Grid_Latitude(grid, d)),
-                      std::bit_cast<std::uint64_t>(z))
-                << lat << ' ' << lon << ' ' << d;
+            ASSERT_EQ(Bits(Grid_Longitude(grid, d)), Bits(x)) << lat << ' ' << lon << ' ' << d;
+            ASSERT_EQ(Bits(Grid_Latitude(grid, d)), Bits(z)) << lat << ' ' << lon << ' ' << d;
         }
     }
-    EXPECT_EQ(Grid_Longitude(Make_Local_Grid(45, 1.23456789), 0), 1.23456789);
     EXPECT_EQ(Grid_Latitude(Make_Local_Grid(1.23456789, 45), -0.0), 1.23456789);
 }
 

@@ -5,23 +5,15 @@
 namespace skerrand {
 namespace {
 
-Airport_Info Named(const char* name, const char* id) {
-    Airport_Info airport;
-    airport.airport_name = name;
-    airport.icao_id = id;
-    return airport;
-}
-
 TEST(Picker, EqualEntriesTakeTheFirstOrAnotherAirport) {
-    const std::vector<Airport_Info> table = {
-        Named("Field", "AAAA"),
-        Named("Field (AAAA)", ""),
-        Named("Field", "AAAA"),
-        Named("Field", "aaaa"),
-        Named("", ""),
-        Named("Field (", "AAAA)"),
-        Named("Field (A", "AA)"),
-    };
+    const std::string names[] = {"Field", "Field (AAAA)", "Field",    "Field",
+                                 "",      "Field (",      "Field (A", std::string(70, 'x')};
+    const char* ids[] = {"AAAA", "", "AAAA", "aaaa", "", "AAAA)", "AA)", "AAAA"};
+    std::vector<Airport_Info> table(std::size(names));
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        table[i].airport_name = names[i];
+        table[i].icao_id = ids[i];
+    }
     const auto place = [&](const char* text) { return Find_Picks(table, text, "").departure; };
     EXPECT_EQ(place("Field (AAAA)"), 2);
     EXPECT_EQ(place("Field (aaaa)"), 3);

@@ -28,8 +28,11 @@ using simulator::Answer;
 constexpr const char* Class = "UIPCMAIN";
 constexpr std::uint32_t Long_Enough = 20000;  // ms, for what happens in far less
 
-std::string Block_Name() {
-    return "FSASMLIB:IPC:" + std::to_string(platform::GetCurrentProcessId()) + ":test";
+const std::string Block_Name = "FSASMLIB:IPC:" + std::to_string(getpid()) + ":test";
+
+platform::Mapping_Handle Make_Block(const std::string& name = Block_Name,
+                                    std::uint32_t size = 0x8000) {
+    return platform::CreateFileMappingA(size, name.c_str());
 }
 
 /// A server in a thread of its own.
@@ -62,7 +65,8 @@ class Transport : public testing::Test {
     void TearDown() override { skerrand::Close_Link(); }
 
     /// A message about the block of that name.
-    static std::uint32_t Reply(const std::string& block_name, const char* message = "FSASMLIB:IPC",
+    static std::uint32_t Reply(const std::string& block_name = Block_Name,
+                               const char* message = "FSASMLIB:IPC",
                                std::uint32_t time_out = Long_Enough) {
         std::uint32_t reply = 99;
         const platform::Atom atom = platform::GlobalAddAtomA(block_name.c_str());
@@ -80,6 +84,10 @@ class Transport : public testing::Test {
 constexpr std::uint32_t Timed_Out = 1000;
 constexpr std::uint32_t Gone = 1000 + platform::Error_Invalid_Window;
 
+const sockaddr* Generic(const sockaddr_un& address) {
+    return static_cast<const sockaddr*>(static_cast<const void*>(&address));
+}
+
 /// Runs `work` in a child and waits for its end; true if all went well there.
 bool In_Child(const std::function<bool()>& work) {
     const pid_t child = fork();
@@ -93,20 +101,17 @@ TEST_F(Transport, Link_Closed_And_Opened_Again_Shows_An_Old_Block) {
     for (const double lat : {-33.5, 90.0}) {
         simulator::Show({.lat = lat, .lon = 180, .heading = 270});
         ASSERT_TRUE(skerrand::Open_Link(6, result)) << result;
-        for (int i = 0; i < 100; ++i) {
-            std::int32_t raw_lat = 0, raw_lon = 0, raw_heading = 0;
-            ASSERT_TRUE(skerrand::Queue_Read(0x0564, 4, &raw_lat, result) &&
-                        skerrand::Queue_Read(0x056C, 4, &raw_lon, result) &&
-                        skerrand::Queue_Read(0x0580, 4, &raw_heading, result) &&
-                        skerrand::Process_Queue(result))
-                << result;
-            EXPECT_NEAR(raw_lat * 90.0 / 10001750, lat, 1e-5);
-            EXPECT_EQ(raw_lon, INT32_MIN);
-            EXPECT_EQ(raw_heading, -0x40000000);
-        }
+        std::int32_t raw_lat = 0, raw_lon = 0, raw_heading = 0;
         const std::array<std::uint8_t, 2> data{3, 4};
-        ASSERT_TRUE(skerrand::Queue_Write(0x8000, 2, data.data(), result) &&
-                    skerrand::Process_Queue(result));
+        ASSERT_TRUE(skerrand::Queue_Read(0x0564, 4, &raw_lat, result) &&
+                    skerrand::Queue_Read(0x056C, 4, &raw_lon, result) &&
+                    skerrand::Queue_Read(0x0580, 4, &raw_heading, result) &&
+                    skerrand::Queue_Write(0x8000, 2, data.data(), result) &&
+                    skerrand::Process_Queue(result))
+            << result;
+        EXPECT_NEAR(raw_lat * 90.0 / 10001750, lat, 1e-5);
+        EXPECT_EQ(raw_lon, INT32_MIN);
+        EXPECT_EQ(raw_heading, -0x40000000);
         EXPECT_EQ(platform::headless::State_Area()[0x8001], 4);
         skerrand::Close_Link();
         std::array<char, 32> name;
@@ -120,80 +125,73 @@ TEST_F(Transport, Link_Closed_And_Opened_Again_Shows_An_Old_Block) {
 TEST_F(Transport, Late_Reply_Is_Taken_For_The_Next_One) {
     std::promise<void> gate;
     std::uint32_t count = 100;
-    const platform::Mapping_Handle block =
-        platform::CreateFileMappingA(0x8000, Block_Name().c_str());
+    const auto block = Make_Block();
     {
         const Running_Server server([&, open = gate.get_future().share()](auto) {
             open.wait();
             return ++count;
         });
-        EXPECT_EQ(Reply(Block_Name(), "FSASMLIB:IPC", 30), Timed_Out);
-        EXPECT_EQ(Reply(Block_Name(), "FSASMLIB:IPC", 0), Timed_Out);
+        EXPECT_EQ(Reply(Block_Name, "FSASMLIB:IPC", 30), Timed_Out);
+        EXPECT_EQ(Reply(Block_Name, "FSASMLIB:IPC", 0), Timed_Out);
         gate.set_value();
-        EXPECT_EQ(Reply(Block_Name()), 103U);
+        EXPECT_EQ(Reply(), 103U);
     }
-    EXPECT_EQ(Reply(Block_Name()), Gone) << "the server has ended";
+    EXPECT_EQ(Reply(), Gone) << "the server has ended";
     EXPECT_EQ(platform::FindWindowExA(Class), 0U);
     platform::CloseHandle(block);
 }
 
 TEST_F(Transport, Crash_Of_The_Server_Kills_The_Client_Or_Blocks_The_Next_Server) {
     // The child crashes at the third message.
-    std::array<int, 2> ready{};
-    ASSERT_EQ(pipe(ready.data()), 0);
+    const int ready = eventfd(0, 0);
     const pid_t child = fork();
     if (child == 0) {
         std::string fault;
         const auto server = simulator::Open_Server(Class, fault);
         int left = 2;
-        if (server == nullptr || write(ready[1], "r", 1) != 1) _exit(1);
+        eventfd_write(ready, 1);
         simulator::Serve(*server, {}, [&](auto) { return left-- > 0 ? 1U : (_exit(0), 0U); });
     }
-    char byte = 0;
-    ASSERT_EQ(read(ready[0], &byte, 1), 1);
-    const platform::Mapping_Handle block =
-        platform::CreateFileMappingA(0x8000, Block_Name().c_str());
+    eventfd_t value = 0;
+    ASSERT_EQ(eventfd_read(ready, &value), 0);
+    const auto block = Make_Block();
     std::string fault;
     EXPECT_EQ(simulator::Open_Server(Class, fault), nullptr) << "two at a time";
     for (const std::uint32_t expected : {1U, 1U, Gone, Gone})
-        EXPECT_EQ(Reply(Block_Name()), expected);
+        EXPECT_EQ(Reply(), expected);
     waitpid(child, nullptr, 0);
+    close(ready);
     {
         const Running_Server next([](auto) { return 7; });
-        EXPECT_EQ(Reply(Block_Name()), 7U);
+        EXPECT_EQ(Reply(), 7U);
     }
     EXPECT_TRUE(std::filesystem::is_empty(scratch.Path() + "/skerrand")) << "a socket is left";
     platform::CloseHandle(block);
-    close(ready[0]);
-    close(ready[1]);
 }
 
 TEST_F(Transport, Leftover_Block_Stands_In_The_Way_Or_One_In_Use_Does_Not) {
-    const std::string name = Block_Name();
-    ASSERT_TRUE(In_Child([&] {
-        const auto block = platform::CreateFileMappingA(100, name.c_str());
-        std::uint8_t* const view = platform::MapViewOfFile(block);
+    ASSERT_TRUE(In_Child([] {
+        std::uint8_t* const view = platform::MapViewOfFile(Make_Block(Block_Name, 100));
         return view != nullptr && std::memset(view, 1, 100) != nullptr;
     }));
-    const platform::Mapping_Handle mine = platform::CreateFileMappingA(0x8000, name.c_str());
-    ASSERT_NE(mine, 0U);
+    const auto mine = Make_Block();
     ASSERT_EQ(platform::GetLastError(), 0U);
     std::uint8_t* const view = platform::MapViewOfFile(mine);
     ASSERT_NE(view, nullptr);
     EXPECT_EQ(std::count(view, view + 0x8000, 0), 0x8000);
-    EXPECT_TRUE(In_Child([&] {
-        return platform::CreateFileMappingA(0x8000, name.c_str()) != 0 &&
-               platform::GetLastError() == platform::Error_Already_Exists;
-    }));
-    const platform::Mapping_Handle again = platform::CreateFileMappingA(0x8000, name.c_str());
-    EXPECT_EQ(platform::GetLastError(), platform::Error_Already_Exists);
-    platform::CloseHandle(again);
-    view[0x7FFF] = 5;  // the view outlives its handle
+    const auto is_taken = [] {
+        const auto again = Make_Block();
+        const bool taken = platform::GetLastError() == platform::Error_Already_Exists;
+        platform::CloseHandle(again);
+        return taken;
+    };
+    EXPECT_TRUE(In_Child(is_taken));
+    EXPECT_TRUE(is_taken());
+    view[0x7FFF] = 5;
     platform::CloseHandle(mine);
-    EXPECT_EQ(view[0x7FFF]--, 5);
+    EXPECT_EQ(view[0x7FFF]--, 5) << "the view outlives its handle";
     platform::UnmapViewOfFile(view);
-    platform::CloseHandle(platform::CreateFileMappingA(0x8000, name.c_str()));
-    EXPECT_EQ(platform::GetLastError(), 0U);
+    EXPECT_FALSE(is_taken());
 }
 
 TEST_F(Transport, Another_User_Stands_Between) {
@@ -215,27 +213,22 @@ TEST_F(Transport, Another_User_Stands_Between) {
         sockaddr_un address;
         if (!platform::posix::Link_Address(Class, address, fault)) return false;
         const Descriptor listener(socket(AF_UNIX, SOCK_SEQPACKET, 0));
-        const auto* generic = static_cast<const sockaddr*>(static_cast<const void*>(&address));
         // Who listens is who called listen().
-        if (bind(listener.Get(), generic, sizeof address) != 0 || seteuid(65534) != 0 ||
-            listen(listener.Get(), 1) != 0 || seteuid(0) != 0) {
-            return false;
-        }
-        return platform::FindWindowExA(Class) == 0;
+        return bind(listener.Get(), Generic(address), sizeof address) == 0 && seteuid(65534) == 0 &&
+               listen(listener.Get(), 1) == 0 && seteuid(0) == 0 &&
+               platform::FindWindowExA(Class) == 0;
     }));
 }
 
 TEST_F(Transport, Hostile_Client_Is_Believed_Or_Ends_The_Server) {
-    const std::string other = "other-" + Block_Name();
-    const std::string small = Block_Name() + "small";
-    const auto other_block = platform::CreateFileMappingA(0x8000, other.c_str());
-    const auto small_block = platform::CreateFileMappingA(0x7FFF, small.c_str());
-    const auto block = platform::CreateFileMappingA(0x8000, Block_Name().c_str());
-    std::uint8_t* const view = platform::MapViewOfFile(block);
+    const std::string other = "other-" + Block_Name;
+    const std::string small = Block_Name + "small";
+    const auto blocks = {Make_Block(other), Make_Block(small, 0x7FFF), Make_Block()};
+    std::uint8_t* const view = platform::MapViewOfFile(*(blocks.end() - 1));
     ASSERT_NE(view, nullptr);
     const Running_Server server(platform::headless::Answer_Batch);
-    EXPECT_EQ(Reply(Block_Name()), 1U);
-    EXPECT_EQ(Reply(Block_Name(), "FSASMLIB:IPD"), 0U);
+    EXPECT_EQ(Reply(), 1U);
+    EXPECT_EQ(Reply(Block_Name, "FSASMLIB:IPD"), 0U);
     for (const std::string& name : {other, small, std::string("FSASMLIB:IPC:none"),
                                     std::string("FSASMLIB:IPC:/../x"), std::string(255, 'F')}) {
         EXPECT_EQ(Reply(name), 0U) << name;
@@ -246,7 +239,7 @@ TEST_F(Transport, Hostile_Client_Is_Believed_Or_Ends_The_Server) {
                                          {1, 0x3304, 4, 0, 0, 2, 0, 0xFFFFFFFF}};
     for (const auto& batch : requests) {
         std::memcpy(view, batch, sizeof batch);
-        EXPECT_EQ(Reply(Block_Name()), 0U) << batch[5];
+        EXPECT_EQ(Reply(), 0U) << batch[5];
         EXPECT_EQ(std::memcmp(view, batch, sizeof batch), 0) << "a refused block is written to";
     }
     // Packets of a wrong length cost the client its connection.
@@ -255,16 +248,15 @@ TEST_F(Transport, Hostile_Client_Is_Believed_Or_Ends_The_Server) {
     ASSERT_TRUE(platform::posix::Link_Address(Class, address, fault));
     for (const std::size_t size : {7U, 264U}) {
         const Descriptor raw(socket(AF_UNIX, SOCK_SEQPACKET, 0));
-        const auto* generic = static_cast<const sockaddr*>(static_cast<const void*>(&address));
-        ASSERT_EQ(connect(raw.Get(), generic, sizeof address), 0);
+        ASSERT_EQ(connect(raw.Get(), Generic(address), sizeof address), 0);
         std::array<char, 300> packet{};
         EXPECT_EQ(send(raw.Get(), packet.data(), size, 0), static_cast<ssize_t>(size));
         EXPECT_EQ(recv(raw.Get(), packet.data(), packet.size(), 0), 0);
     }
     std::memset(view, 0, 4);
-    EXPECT_EQ(Reply(Block_Name()), 1U);
+    EXPECT_EQ(Reply(), 1U);
     platform::UnmapViewOfFile(view);
-    for (const auto each : {other_block, small_block, block})
+    for (const auto each : blocks)
         platform::CloseHandle(each);
 }
 
