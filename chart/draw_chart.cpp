@@ -9,15 +9,6 @@
 
 namespace skerrand {
 
-namespace {
-
-void Set_Pen(platform::Device_Context* device, int width) {
-    platform::Set_Pen_Style(device, platform::Pen_Style::Solid);
-    platform::Set_Pen_Width(device, width);
-}
-
-}  // namespace
-
 void Draw_Chart(const Chart_Target& target) {
     const bool airport_shows = chart_view.zoom_rate >= Zoom_Airport;
     const Airport_Info& airport = current_airport;

@@ -5,7 +5,7 @@
 #include "app/messages.h"
 #include "chart/current_chart.h"
 
-namespace skerrand {
+namespace skerrand::form4 {
 
 void show_all_cfreq_Click() {
     const Airport_Info& airport = current_airport;
@@ -20,4 +20,4 @@ void show_all_cfreq_Click() {
     Show_Message(text, platform::Icon::Information);
 }
 
-}  // namespace skerrand
+}  // namespace skerrand::form4

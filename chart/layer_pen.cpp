@@ -5,6 +5,11 @@
 
 namespace skerrand {
 
+void Set_Pen(platform::Device_Context* device, int width) {
+    platform::Set_Pen_Style(device, platform::Pen_Style::Solid);
+    platform::Set_Pen_Width(device, width);
+}
+
 void Set_Solid(platform::Device_Context* device, platform::Colour colour) {
     platform::Set_Pen_Colour(device, colour);
     platform::Set_Fill_Colour(device, colour);

@@ -8,6 +8,9 @@
 /// The few steps that the layers share.
 namespace skerrand {
 
+/// A solid pen of a width in pixels of the target.
+void Set_Pen(platform::Device_Context* device, int width);
+
 /// Pen and fill in one colour, the fill solid.
 void Set_Solid(platform::Device_Context* device, platform::Colour colour);
 

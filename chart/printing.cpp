@@ -19,8 +19,7 @@ namespace skerrand::form4 {
 namespace {
 
 void Set_Fine_Black_Pen(platform::Device_Context* device) {
-    platform::Set_Pen_Style(device, platform::Pen_Style::Solid);
-    platform::Set_Pen_Width(device, 1);
+    Set_Pen(device, 1);
     Set_Hollow(device, Black);
 }
 

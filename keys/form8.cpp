@@ -7,6 +7,7 @@
 #include "keys/key_names.h"
 #include "keys/key_poll.h"
 #include "platform/controls.h"
+#include "platform/keys.h"
 
 namespace skerrand::form8 {
 
@@ -83,7 +84,7 @@ void Form_Unload() {
 
 /// A later press takes the place of an earlier one, and of several at once the highest code stays.
 void Get_New_Key_Timer() {
-    for (std::int32_t code = First_Key_Code; code <= Last_Key_Code; ++code) {
+    for (std::int32_t code = platform::First_Key_Code; code <= platform::Last_Key_Code; ++code) {
         if (!Is_New_Press(code) || code <= Last_Refused_Code) continue;
         new_key = code;
         platform::Set_Text(Text1, Key_Name(code));

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "platform/keys.h"
+
 namespace skerrand {
 
 namespace {
@@ -46,7 +48,8 @@ std::string Bracketed(const char* name, std::int32_t number) {
 }  // namespace
 
 std::string Key_Name(std::int32_t code) {
-    if (code < 0 || code > 255) return Bracketed("", code);
+    if (code < platform::First_Key_Code || code > platform::Last_Key_Code)
+        return Bracketed("", code);
     if (code >= Numpad_0 && code <= Numpad_9) return Bracketed("NUMPAD ", code - Numpad_0);
     if (code >= F1 && code <= F24) return Bracketed("F", code - F1 + 1);
     const auto* found = std::lower_bound(

@@ -33,7 +33,7 @@ bool Is_New_Press(std::int32_t code) {
 }
 
 void KeyPress_Checker_Timer() {
-    for (std::int32_t code = First_Key_Code; code <= Last_Key_Code; ++code) {
+    for (std::int32_t code = platform::First_Key_Code; code <= platform::Last_Key_Code; ++code) {
         if (!Is_New_Press(code)) continue;
         const auto* found =
             std::find_if(std::begin(commands), std::end(commands),

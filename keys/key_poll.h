@@ -4,10 +4,6 @@
 
 namespace skerrand {
 
-/// The virtual-key codes.
-inline constexpr std::int32_t First_Key_Code = 0;
-inline constexpr std::int32_t Last_Key_Code = 255;
-
 /// Whether a key has gone down since the last question for it and is still down. A key that is held
 /// counts once; one that was let go between two questions does not count.
 bool Is_New_Press(std::int32_t code);

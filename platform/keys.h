@@ -5,7 +5,11 @@
 /// The global keyboard: its keys are seen whichever program has the focus.
 namespace platform {
 
-/// The state of a key by its virtual-key code, 0 to 255: `Key_Down` is set while the key is down,
+/// The virtual-key codes.
+inline constexpr int First_Key_Code = 0;
+inline constexpr int Last_Key_Code = 255;
+
+/// The state of a key by its virtual-key code: `Key_Down` is set while the key is down,
 /// `Key_Was_Pressed` if it went down since the last call for that code. Keeping a key down is one
 /// press, however long. 0 for any other code.
 ///

@@ -5,6 +5,9 @@
 
 namespace platform {
 
+/// The program's title of its messages, also of those that a back-end shows by itself.
+inline constexpr std::string_view Message_Title = "Skerrand Message";
+
 enum class Icon : std::uint8_t { Information, Exclamation, Critical };
 
 /// Shows a message with one button and returns when the user has answered it. No timer ticks

@@ -10,7 +10,8 @@
 /// page. Without a printer every question answers empty or zero and nothing is printed.
 namespace platform {
 
-/// Takes the printer that is the system's default now. False if there is none that can be reached.
+/// Takes the printer that is the system's default now, and drops an unfinished document. False if
+/// there is none that can be reached.
 bool Open_Printer();
 
 /// The printer's drawing target; null if no printer is open. What is drawn shows only between

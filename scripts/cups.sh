@@ -82,9 +82,9 @@ await_jobs() {
 
 stop_service() {
     [ -n "$service" ] || return 0
-    kill -CONT "$service" 2> /dev/null
-    kill "$service" 2> /dev/null
-    wait "$service" 2> /dev/null
+    kill -CONT "$service" 2> /dev/null || true
+    kill "$service" 2> /dev/null || true
+    wait "$service" 2> /dev/null || true
     service=
 }
 

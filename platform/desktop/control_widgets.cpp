@@ -18,6 +18,7 @@
 #include "platform/desktop/scale.h"
 #include "platform/desktop/text.h"
 #include "platform/desktop/text_boxes.h"
+#include "platform/desktop/window_widget.h"
 
 namespace platform::desktop {
 
@@ -38,6 +39,8 @@ QWidget* New_Label(const Control& row, QWidget* holder) {
 QWidget* New_Button(Live_Control& control, QWidget* holder) {
     auto* button = new QPushButton(holder);
     button->setAutoDefault(true);  // The Enter key presses the button that has the focus.
+    // A dialog may wait for keys: after a click they must not press its buttons.
+    if (control.window->table.frame == Frame_Style::Dialog) button->setFocusPolicy(Qt::TabFocus);
     QObject::connect(button, &QPushButton::clicked, holder, [&control] { Fire(control); });
     return button;
 }

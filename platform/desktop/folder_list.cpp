@@ -59,7 +59,7 @@ void Refuse(const std::string& native) {
     Message_Box("The folder \"" + From_Utf8_Lossy(native) +
                     "\" cannot be used, because its name holds characters that this program cannot "
                     "write.",
-                Icon::Exclamation, "Skerrand Message");
+                Icon::Exclamation, Message_Title);
 }
 
 }  // namespace

@@ -12,14 +12,13 @@ namespace platform::desktop {
 
 namespace {
 
-constexpr double Points_To_Inch = 72.0;
 constexpr double Default_Points = 8.25;
 
 /// Narrowest stretch, in per cent, that is still read with ease.
 constexpr int Least_Stretch = 80;
 
 int Pixel_Size(double points) {
-    return static_cast<int>(std::lround(points * Logical_Dpi() / Points_To_Inch));
+    return static_cast<int>(std::lround(points * Logical_Dpi() / Points_Per_Inch));
 }
 
 /// Width of the small letters in sizes of the font that the measures were made for; a wider face is

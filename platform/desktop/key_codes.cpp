@@ -1,6 +1,8 @@
 #include "platform/desktop/key_codes.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace platform::desktop {
 
@@ -85,7 +87,9 @@ constexpr Key_Row punctuation[] = {
     {0x0060, 0x0060, 192},  // grave
 };
 
-/// Keycodes of the punctuation of an American keyboard.
+/// Keycodes of the rows of an American keyboard: its digits and letters, and its punctuation.
+constexpr std::pair<std::uint32_t, std::string_view> rows_of_places[] = {
+    {10, "1234567890"}, {24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52, "ZXCVBNM"}};
 constexpr Key_Row places[] = {
     {20, 20, 189},  // minus
     {21, 21, 187},  // equal
@@ -124,6 +128,9 @@ Key_Codes Codes_Of(std::span<const std::uint32_t> keysyms) {
 }
 
 Key_Codes Codes_Of_Place(std::uint32_t keycode) {
+    for (const auto& [first, codes] : rows_of_places) {
+        if (keycode >= first && keycode < first + codes.size()) return {codes[keycode - first]};
+    }
     return {Find_Code(places, {&keycode, 1})};
 }
 

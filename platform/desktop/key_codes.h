@@ -21,8 +21,8 @@ struct Key_Codes {
 /// Lock says. No codes for a key that has none of these.
 Key_Codes Codes_Of(std::span<const std::uint32_t> keysyms);
 
-/// The code of a key by its place, for those that give umlauts and the like: the code that the key
-/// has on an American keyboard. `keycode` is that of an X server on Linux.
+/// The code of a key by its place, for those that give umlauts, or no Latin letters at all: the
+/// code that the key has on an American keyboard. `keycode` is that of an X server on Linux.
 Key_Codes Codes_Of_Place(std::uint32_t keycode);
 
 }  // namespace platform::desktop

@@ -19,7 +19,7 @@ struct Code_State {
 };
 
 struct Keyboard {
-    std::array<Code_State, 256> codes;
+    std::array<Code_State, Last_Key_Code + 1> codes;
     /// The keys that are down, with their codes of when they went down.
     std::unordered_map<desktop::Key_Id, desktop::Key_Codes> down;
 };
@@ -73,7 +73,7 @@ void desktop::Watch_Keys() {
 }
 
 std::uint16_t GetAsyncKeyState(int code) {
-    if (code < 0 || code > 255) return 0;
+    if (code < First_Key_Code || code > Last_Key_Code) return 0;
     Code_State& state = State_Of_Code(code);
     unsigned result = 0;
     if (state.keys_down > 0) result |= Key_Down;

@@ -14,6 +14,7 @@
 #include "platform/desktop/fonts.h"
 #include "platform/desktop/pdf_file.h"
 #include "platform/desktop/print_queue.h"
+#include "platform/desktop/scale.h"
 #include "platform/desktop/shapes.h"
 #include "platform/desktop/sheet.h"
 #include "platform/desktop/text.h"
@@ -23,9 +24,6 @@ namespace platform {
 
 namespace {
 
-constexpr double Twips_To_Inch = 1440;
-constexpr double Points_To_Inch = 72;
-constexpr double Twips_To_Point = Twips_To_Inch / Points_To_Inch;
 constexpr double Font_Points = 10;
 
 /// A screen's, for which the lengths of dashes are made.
@@ -62,7 +60,8 @@ void Drop_Document() {
 /// Undoes the fitting of letters to the dots of a screen, which would space them unevenly.
 QFont Page_Font(int resolution) {
     QFont font = desktop::Default_Font();
-    font.setPixelSize(static_cast<int>(std::lround(Font_Points * resolution / Points_To_Inch)));
+    font.setPixelSize(
+        static_cast<int>(std::lround(Font_Points * resolution / desktop::Points_Per_Inch)));
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -80,9 +79,9 @@ bool Save_To_File(const std::string& title, const QByteArray& pdf) {
     const auto* first = reinterpret_cast<const std::uint8_t*>(pdf.constData());
     const auto name = desktop::Save_Pdf(title, {first, static_cast<std::size_t>(pdf.size())});
     if (!name) return false;
-    Message_Box("The chart was printed to the file \"" + *name +
-                    "\", because this system has no default printer.",
-                Icon::Information, "Skerrand Message");
+    Message_Box(
+        "The page was printed to the file \"" + *name + "\", because no default printer was found.",
+        Icon::Information, Message_Title);
     return true;
 }
 
@@ -112,11 +111,12 @@ Device_Context* Printer_Device() {
 Size Paper_Size() {
     if (!printer) return {};
     const QSizeF points = printer->sheet.layout.fullRect(QPageLayout::Point).size();
-    return {points.width() * Twips_To_Point, points.height() * Twips_To_Point};
+    return {points.width() * desktop::Twips_Per_Inch / desktop::Points_Per_Inch,
+            points.height() * desktop::Twips_Per_Inch / desktop::Points_Per_Inch};
 }
 
 double Printer_Twips_To_Pixels_X(double twips) {
-    return printer ? twips * printer->sheet.resolution / Twips_To_Inch : 0;
+    return printer ? twips * printer->sheet.resolution / desktop::Twips_Per_Inch : 0;
 }
 
 double Printer_Twips_To_Pixels_Y(double twips) {

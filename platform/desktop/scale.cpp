@@ -7,7 +7,6 @@
 namespace platform::desktop {
 
 namespace {
-constexpr double Twips_To_Inch = 1440.0;
 constexpr double Usual_Dpi = 96.0;
 }  // namespace
 
@@ -22,7 +21,7 @@ double Device_Ratio() {
 }
 
 int To_Logical(int twips) {
-    return static_cast<int>(std::lround(twips * Logical_Dpi() / Twips_To_Inch));
+    return static_cast<int>(std::lround(twips * Logical_Dpi() / Twips_Per_Inch));
 }
 
 QRect To_Logical(const Box& box) {
@@ -36,7 +35,7 @@ QRect To_Logical(const Box& box) {
 namespace platform {
 
 double Twips_To_Pixels_X(double twips) {
-    return twips * desktop::Logical_Dpi() * desktop::Device_Ratio() / desktop::Twips_To_Inch;
+    return twips * desktop::Logical_Dpi() * desktop::Device_Ratio() / desktop::Twips_Per_Inch;
 }
 
 double Twips_To_Pixels_Y(double twips) {

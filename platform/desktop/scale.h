@@ -9,6 +9,9 @@
 /// logical pixel is two device pixels wide.
 namespace platform::desktop {
 
+inline constexpr double Twips_Per_Inch = 1440;
+inline constexpr double Points_Per_Inch = 72;
+
 /// Logical pixels to the inch; 96 on most screens.
 double Logical_Dpi();
 

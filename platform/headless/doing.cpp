@@ -24,7 +24,7 @@ void Refuse_Folder(std::string_view utf8) {
     Message_Box("The folder \"" + From_Utf8_Lossy(utf8) +
                     "\" cannot be used, because its name holds characters that this program cannot "
                     "write.",
-                Icon::Exclamation, "Skerrand Message");
+                Icon::Exclamation, Message_Title);
 }
 
 }  // namespace

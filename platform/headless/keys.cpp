@@ -9,10 +9,8 @@ namespace platform {
 
 namespace {
 
-constexpr int Key_Codes = 256;
-
 /// By code, as `GetAsyncKeyState` tells it.
-std::array<std::uint16_t, Key_Codes> keys{};
+std::array<std::uint16_t, Last_Key_Code + 1> keys{};
 
 }  // namespace
 
@@ -21,7 +19,7 @@ void headless::Reset_Keys() {
 }
 
 std::uint16_t GetAsyncKeyState(int code) {
-    if (code < 0 || code >= Key_Codes) return 0;
+    if (code < First_Key_Code || code > Last_Key_Code) return 0;
     std::uint16_t& key = keys[static_cast<std::size_t>(code)];
     const std::uint16_t state = key;
     key &= Key_Down;
@@ -29,7 +27,7 @@ std::uint16_t GetAsyncKeyState(int code) {
 }
 
 void headless::Key_Command(Arguments arguments, Reply& reply) {
-    const auto code = Whole_Number(arguments[0], 0, Key_Codes - 1, reply);
+    const auto code = Whole_Number(arguments[0], First_Key_Code, Last_Key_Code, reply);
     if (!code) return;
     std::uint16_t& key = keys[static_cast<std::size_t>(*code)];
     if (arguments[1] == "down") {

@@ -1,7 +1,9 @@
 #include "platform/headless/printer.h"
 
+#include <algorithm>
 #include <array>
 #include <climits>
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -27,13 +29,17 @@ struct Printer {
     int print_height = 6800;
     bool is_open = false;
     bool has_document = false;  ///< one is begun and not ended
-    double cursor_x = 0;
-    double cursor_y = 0;
+    int cursor_x = 0;
+    int cursor_y = 0;
     Device_Context device;
     std::vector<Page> pages;
 };
 
 Printer printer;
+
+int Dots(double place) {
+    return static_cast<int>(std::lround(std::clamp(place, -1e9, 1e9)));
+}
 
 bool Is_There() {
     return printer.is_open && printer.condition != Condition::Absent;
@@ -51,6 +57,7 @@ void headless::Reset_Printer() {
 
 bool Open_Printer() {
     printer.is_open = printer.condition != Condition::Absent;
+    printer.has_document = false;
     return printer.is_open;
 }
 
@@ -85,8 +92,8 @@ bool Start_Page(std::string_view) {
 }
 
 void Set_Text_Cursor(double x, double y) {
-    printer.cursor_x = x;
-    printer.cursor_y = y;
+    printer.cursor_x = Dots(x);
+    printer.cursor_y = Dots(y);
 }
 
 Size Text_Size(std::string_view text) {
@@ -95,8 +102,7 @@ Size Text_Size(std::string_view text) {
 }
 
 void Print_Line(std::string_view text) {
-    TextOutA(Printer_Device(), static_cast<int>(printer.cursor_x),
-             static_cast<int>(printer.cursor_y), text);
+    TextOutA(Printer_Device(), printer.cursor_x, printer.cursor_y, text);
     Set_Text_Cursor(0, printer.cursor_y + headless::Page_Text_Height);
 }
 

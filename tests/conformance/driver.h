@@ -36,26 +36,25 @@ void Pick(platform::Control_Ref list_or_combo, int index);
 void Type(platform::Control_Ref combo, const std::string& text);
 void Press(const platform::Window& window, platform::Mouse_Button button, int x, int y);
 void Resize(const platform::Window& window, int client_width, int client_height);  ///< pixels
-void Minimise(const platform::Window& window);
-void Restore(const platform::Window& window);
-void Close(const platform::Window& window);
+enum Deed { Minimise, Restore, Close };
+void Do(Deed deed, const platform::Window& window);
 
 /// A key goes down or up while the window has the focus; of a letter, by its virtual-key code.
 void Key(const platform::Window& window, int code, bool down);
 
-/// Every message box is answered by itself when it has stood for that long; 0 at each start.
-void Hold_Messages(int milliseconds);
-
+/// A message box is answered by itself; where time passes meanwhile, after 300 ms.
 struct Message {
     platform::Icon icon;
     std::string title;
     std::string text;
+
+    friend bool operator==(const Message&, const Message&) = default;
 };
 
 /// The messages shown since the start or the last call.
 std::vector<Message> Take_Messages();
 
-/// The colour at a pixel of the client area where no control stands.
+/// The colour at a pixel of the client area where no control stands, and no shape but a line.
 platform::Colour Pixel(const platform::Window& window, int x, int y);
 
 }  // namespace driver

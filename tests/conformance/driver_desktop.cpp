@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLineEdit>
@@ -10,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/desktop/application.h"
-#include "platform/desktop/entry_combo.h"
 #include "platform/desktop/handlers.h"
 #include "platform/desktop/scale.h"
 #include "platform/desktop/text.h"
@@ -27,14 +27,6 @@ using desktop::Window_Widget;
 
 QElapsedTimer since_start;
 std::vector<Message> messages;
-int hold = 0;  // milliseconds that a message stands
-
-/// Where the user would press on the control.
-void Press_On(Control_Ref control) {
-    const desktop::Live_Control* live = desktop::Find_Live(control);
-    if (live == nullptr) return;
-    QTest::mouseClick(live->widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
-}
 
 QPoint Place_Of_Entry(const QListView& view, int index) {
     return view.visualRect(view.model()->index(index, 0)).center();
@@ -47,7 +39,7 @@ void Answer() {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (box != known) standing.start();
     known = box;
-    if (box == nullptr || standing.elapsed() < hold) return;
+    if (box == nullptr || standing.elapsed() < 300) return;
     const Icon icon = box->icon() == QMessageBox::Information ? Icon::Information
                       : box->icon() == QMessageBox::Warning   ? Icon::Exclamation
                                                               : Icon::Critical;
@@ -74,7 +66,6 @@ void Prepare(int& argc, char** argv) {
 
 void Start(Handler start) {
     messages.clear();
-    hold = 0;
     // An earlier program has told the toolkit to leave all loops; leaving one makes it forget that.
     QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
     QApplication::exec();
@@ -99,7 +90,8 @@ long long Clock() {
 }
 
 void Click(Control_Ref control) {
-    Press_On(control);
+    QWidget* widget = desktop::Find_Live(control)->widget;
+    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
 }
 
 void Double_Click(Control_Ref list) {
@@ -123,13 +115,13 @@ void Pick(Control_Ref list_or_combo, int index) {
 }
 
 void Type(Control_Ref combo, const std::string& text) {
-    auto* box = static_cast<desktop::Entry_Combo*>(desktop::Find_Live(combo)->widget);
-    box->lineEdit()->selectAll();
-    QTest::keyClicks(box->lineEdit(), desktop::To_Qt(text));
-    QTest::keyClick(box->lineEdit(), Qt::Key_Escape);
+    QLineEdit* line = static_cast<QComboBox*>(desktop::Find_Live(combo)->widget)->lineEdit();
+    line->selectAll();
+    QTest::keyClicks(line, desktop::To_Qt(text));
+    QTest::keyClick(line, Qt::Key_Escape);
     // The toolkit would pick the entry of that text when the focus goes.
     QFocusEvent gone(QEvent::FocusOut, Qt::TabFocusReason);
-    QCoreApplication::sendEvent(box->lineEdit(), &gone);
+    QCoreApplication::sendEvent(line, &gone);
 }
 
 void Press(const Window& window, Mouse_Button button, int x, int y) {
@@ -150,29 +142,19 @@ void Resize(const Window& window, int client_width, int client_height) {
     Advance(20);
 }
 
-void Minimise(const Window& window) {
-    desktop::Find_Window(window)->showMinimized();
+void Do(Deed deed, const Window& window) {
+    Advance(20);  // The news of what was done before may still be on its way.
+    Window_Widget* widget = desktop::Find_Window(window);
+    if (deed == Minimise) widget->showMinimized();
+    if (deed == Restore) widget->showNormal();
+    if (deed == Close) widget->close();
     Advance(20);
-}
-
-void Restore(const Window& window) {
-    Advance(20);  // The news of a minimising may still be on its way.
-    desktop::Find_Window(window)->showNormal();
-    Advance(20);
-}
-
-void Close(const Window& window) {
-    desktop::Find_Window(window)->close();
 }
 
 void Key(const Window& window, int code, bool down) {
     // The toolkit numbers letters as the codes do.
     QTest::sendKeyEvent(down ? QTest::Press : QTest::Release, desktop::Find_Window(window),
                         static_cast<Qt::Key>(code), QString(), Qt::NoModifier);
-}
-
-void Hold_Messages(int milliseconds) {
-    hold = milliseconds;
 }
 
 std::vector<Message> Take_Messages() {

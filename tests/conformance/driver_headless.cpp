@@ -1,7 +1,4 @@
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
-#include <numbers>
 
 #include "platform/code_page.h"
 #include "platform/headless/form.h"
@@ -16,7 +13,6 @@ namespace driver {
 namespace {
 
 using namespace platform;
-using headless::Call_Kind;
 
 std::string Name(Control_Ref control) {
     return std::string(control.window->name) + "." + control.window->controls[control.index].name;
@@ -24,68 +20,6 @@ std::string Name(Control_Ref control) {
 
 void Do(const std::string& verb, const std::string& arguments) {
     headless::Execute(verb + " " + arguments);
-}
-
-/// A call's corners in order, and where a pixel lies in the ellipse inside them: 1 is its outline.
-struct Shape {
-    explicit Shape(const headless::Drawing_Call& call)
-        : left(std::min(call.numbers[0], call.numbers[2])),
-          top(std::min(call.numbers[1], call.numbers[3])),
-          right(std::max(call.numbers[0], call.numbers[2])),
-          bottom(std::max(call.numbers[1], call.numbers[3])) {}
-
-    double X(double x) const { return (2 * x - left - right) / (right - left); }
-    double Y(double y) const { return (2 * y - top - bottom) / (bottom - top); }
-    double Edge() const { return 4.0 / (right - left); }
-
-    double left, top, right, bottom;
-};
-
-bool Is_On_Ellipse(const Shape& shape, int x, int y) {
-    return std::abs(std::hypot(shape.X(x), shape.Y(y)) - 1) <= shape.Edge();
-}
-
-bool Is_On_Outline(const Shape& shape, int x, int y) {
-    const bool inside = x >= shape.left && x <= shape.right && y >= shape.top && y <= shape.bottom;
-    return inside &&
-           (x - shape.left < 2 || shape.right - x < 2 || y - shape.top < 2 || shape.bottom - y < 2);
-}
-
-/// Whether the angle of a pixel lies on the way from one radial to the other, counter-clockwise.
-bool Is_On_Sweep(const Shape& shape, const headless::Drawing_Call& call, int x, int y) {
-    const auto angle = [&shape](double px, double py) {
-        return std::atan2(-shape.Y(py), shape.X(px));
-    };
-    const auto from_start = [start = angle(call.numbers[4], call.numbers[5])](double end) {
-        return end > start ? end - start : end - start + 2 * std::numbers::pi;
-    };
-    return from_start(angle(x, y)) <= from_start(angle(call.numbers[6], call.numbers[7]));
-}
-
-bool Is_On_Line(const headless::Drawing_Call& call, int width, int x, int y) {
-    const auto& n = call.numbers;
-    const double length = std::hypot(n[2] - n[0], n[3] - n[1]);
-    const double along = ((x - n[0]) * (n[2] - n[0]) + (y - n[1]) * (n[3] - n[1])) / length;
-    const double beside = ((x - n[0]) * (n[3] - n[1]) - (y - n[1]) * (n[2] - n[0])) / length;
-    return along >= 0 && along <= length && std::abs(beside) <= (width + 1) / 2.0;
-}
-
-enum class Part { Beside, Outline, Inside };
-
-Part Part_At(const headless::Drawing_Call& call, int width, int x, int y) {
-    if (call.kind == Call_Kind::Line) {
-        return Is_On_Line(call, width, x, y) ? Part::Outline : Part::Beside;
-    }
-    if (call.kind == Call_Kind::Text) return Part::Beside;
-    const Shape shape(call);
-    if (call.kind == Call_Kind::Rectangle) {
-        if (Is_On_Outline(shape, x, y)) return Part::Outline;
-        return std::abs(shape.X(x)) < 1 && std::abs(shape.Y(y)) < 1 ? Part::Inside : Part::Beside;
-    }
-    const bool on_way = call.kind == Call_Kind::Ellipse || Is_On_Sweep(shape, call, x, y);
-    if (Is_On_Ellipse(shape, x, y)) return on_way ? Part::Outline : Part::Beside;
-    const bool inside = std::hypot(shape.X(x), shape.Y(y)) < 1;
-    return inside && call.kind == Call_Kind::Ellipse ? Part::Inside : Part::Beside;
 }
 
 }  // namespace
@@ -136,42 +70,34 @@ void Resize(const Window& window, int client_width, int client_height) {
                      std::to_string(client_height + headless::Frame_Height(window)));
 }
 
-void Minimise(const Window& window) {
-    Do("minimise", window.name);
-}
-
-void Restore(const Window& window) {
-    Do("restore", window.name);
-}
-
-void Close(const Window& window) {
-    Do("close", window.name);
+void Do(Deed deed, const Window& window) {
+    const char* const verbs[] = {"minimise", "restore", "close"};
+    Do(verbs[deed], window.name);
 }
 
 void Key(const Window&, int code, bool down) {
     Do("key", std::to_string(code) + (down ? " down" : " up"));
 }
 
-void Hold_Messages(int) {}  // they are answered before any time has passed
-
 std::vector<Message> Take_Messages() {
     std::vector<Message> messages;
-    for (const auto& shown : headless::Take_Messages()) {
+    for (const auto& shown : headless::Take_Messages())
         messages.push_back({shown.icon, shown.title, shown.text});
-    }
     return messages;
 }
 
+// Of the shapes only lines along the axes are seen here; the others are looked at as calls.
 Colour Pixel(const Window& window, int x, int y) {
     Colour colour = window.back_colour;
     const headless::Picture& picture = Window_Device(window)->picture;
-    for (const headless::Drawing_Call& call : picture.calls) {
-        const headless::Drawing_State& state = picture.states[call.state];
-        const Part part = Part_At(call, state.pen_width, x, y);
-        if (part == Part::Outline) colour = state.pen_colour;
-        if (part == Part::Inside && state.fill_style == Fill_Style::Solid) {
-            colour = state.fill_colour;
-        }
+    for (const auto& [kind, state, ends] : picture.calls) {
+        const int half = picture.states[state].pen_width / 2;
+        const auto [left, right] = std::minmax(ends[0], ends[2]);
+        const auto [top, bottom] = std::minmax(ends[1], ends[3]);
+        if (kind != headless::Call_Kind::Line || (left != right && top != bottom)) continue;
+        const bool across = left - half <= x && x <= right + half;
+        const bool down = top - half <= y && y <= bottom + half;
+        if (across && down) colour = picture.states[state].pen_colour;
     }
     return colour;
 }

@@ -20,23 +20,21 @@ namespace {
 
 using platform::desktop::Window_Widget;
 
-int Needed_Width(const QWidget& widget, const QString& text) {
-    return QFontMetrics(widget.font()).horizontalAdvance(text);
-}
-
 void Expect_Fits(const QWidget& widget, const char* name) {
+    const QFontMetrics metrics(widget.font());
     if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
         const QRect room(0, 0, label->width(), 1000);
         const int flags = label->wordWrap() ? Qt::TextWordWrap : 0;
-        const QRect needed = QFontMetrics(label->font()).boundingRect(room, flags, label->text());
+        const QRect needed = metrics.boundingRect(room, flags, label->text());
         EXPECT_LE(needed.width(), label->width()) << name;
         EXPECT_LE(needed.height(), label->height() + 1) << name;
     } else if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
-        EXPECT_LE(Needed_Width(widget, button->text()), widget.width() - 4) << name;
+        EXPECT_LE(metrics.horizontalAdvance(button->text()), widget.width() - 4) << name;
     } else if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
         const QLineEdit* line = combo->lineEdit();
         if (line == nullptr) return;
-        EXPECT_LE(Needed_Width(*line, line->text()), line->width()) << name;
+        const QFontMetrics condensed(line->font());
+        EXPECT_LE(condensed.horizontalAdvance(line->text()), line->width()) << name;
     }
 }
 

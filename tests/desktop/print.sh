@@ -39,8 +39,11 @@ expect_page() {
     white 1x3200+75+151 0 1 "the frame"
     white 74x3508+2405+0 100 100 "right of the frame"
     white 500x1+1000+952 35 60 "the dashes"
-    white 500x400+1300+350 0 0 "the red figure"
+    [ "$(convert page.png -crop 500x400+1300+350 -depth 8 txt:- | grep -c '#FF0000')" -eq 200000 ] ||
+        fail "the figure is not red"
 }
+
+print_page() { timeout 20 "$bin/print_page" || fail "the page is not taken"; }
 
 # Does something to the printer after it is opened, and prints: that has to fail, and in time.
 expect_failure() {
@@ -56,7 +59,7 @@ expect_failure() {
 }
 
 begin_printing || fail "no printing service"
-timeout 20 "$bin/print_page" || fail "the page is not taken"
+print_page
 expect_page
 
 expect_failure lpadmin -x test
@@ -69,13 +72,11 @@ expect_failure stop_service
 serve || fail "no printing service"
 
 cupsdisable test # it takes jobs and keeps them
-timeout 20 "$bin/print_page" || fail "a printer that pauses takes no page"
+print_page
 cupsenable test
 expect_page
 
 lpoptions -p test -o media=A5
-timeout 20 "$bin/print_page" || fail "the page is not taken"
+print_page
 await_jobs || fail "a page is not printed"
-pdftoppm -r 300 -png -singlefile "$printed" page
-white 75x2480+0+0 100 100 "left of the frame on the user's own paper"
-white 1x2100+75+151 0 1 "the frame on the user's own paper"
+pdfinfo "$printed" | grep -q A5 || fail "the user's own paper is not taken"

@@ -21,14 +21,9 @@ fail() {
     exit 1
 }
 
-# Waits for the program to end by itself, as it should.
-await_end() {
-    wait_for "$2" test ! -e "/proc/$1"
-    wait "$1" || fail "exit status $?"
-}
-
-# How many pixels of a window are as green as runways and the aircraft.
-green() { import -window "$1" -depth 8 txt:- | grep -c '#00C000'; }
+# How many pixels of a window have that colour.
+pixels() { import -window "$1" -depth 8 txt:- | grep -c "#$2"; }
+green=00C000 # as runways and the aircraft are
 
 # Starts a program and sets `program` to its process.
 begin() {
@@ -50,3 +45,33 @@ XDG_RUNTIME_DIR=$(mktemp -d) || exit 1
 export XDG_RUNTIME_DIR
 trap clean_up EXIT
 "$bin/make_world" "$folder/fs2002" || fail "no world"
+
+# Sets the program up for the world, as a run before would have left it.
+set_up() {
+    "$bin/skerrand-headless" > setup.txt << END
+advance 3000
+folder Form2.Dir1 $folder/fs2002
+click Form2.Command1
+advance 5000
+END
+    [ -s all_fs_airports.dat ] || fail "no database"
+}
+
+# Picks two airports and goes on to the chart.
+choose() {
+    window 'Choosing an airport'
+    sleep 2.5
+    pick 50 seattle
+    pick 82 heathrow
+    click 155 240
+}
+
+# Goes from the chart back to the lists, and ends the program there.
+close_program() {
+    menu 20 1
+    window 'Choosing an airport'
+    sleep 2.5
+    click 280 240
+    wait_for "CLOSE_PROGRAM did not end the program" test ! -e "/proc/$program"
+    wait "$program" || fail "exit status $?"
+}
