@@ -10,7 +10,11 @@
 
 #include "app/form1.h"
 #include "app/form2.h"
+#include "app/form5.h"
+#include "app/form6.h"
 #include "chart/form4.h"
+#include "keys/form7.h"
+#include "keys/form8.h"
 #include "platform/desktop/window_widget.h"
 #include "selection/form3.h"
 
@@ -40,7 +44,8 @@ void Expect_Fits(const QWidget& widget, const char* name) {
 
 TEST(Captions, No_Caption_Is_Cut_In_Its_Box) {
     for (const platform::Window* table :
-         {&form1::window, &form2::window, &form3::window, &form4::window}) {
+         {&form1::window, &form2::window, &form3::window, &form4::window, &form5::window,
+          &form6::window, &form7::window, &form8::window}) {
         Window_Widget window(*table);
         window.show();
         for (const platform::desktop::Live_Control& control : window.controls) {
