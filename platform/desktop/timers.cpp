@@ -14,13 +14,15 @@ namespace desktop {
 
 namespace {
 
-/// A shorter interval is stretched to this, in milliseconds, so that a timer of 1 ms leaves the
-/// processor to others.
+/// A timer of fewer milliseconds is one that asks again and again. Its interval is stretched, so
+/// that it leaves the processor to others; nobody holds a key for less than that.
 constexpr int Shortest_Interval = 5;
+constexpr int Asking_Interval = 10;
 
 void Start_Interval(const Live_Control& control) {
     if (control.running && control.interval > 0) {
-        control.timer->start(std::max(control.interval, Shortest_Interval));
+        const bool asks = control.interval < Shortest_Interval;
+        control.timer->start(asks ? Asking_Interval : control.interval);
     } else {
         control.timer->stop();
     }
