@@ -1,10 +1,7 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
-
-#include "tools/bgl_writer.h"
 
 /// The magnetic variation of the world, degrees, east positive.
 namespace world {
@@ -18,13 +15,10 @@ using Coarse_Grid = std::vector<double>;
 
 /// Reads a text of numbers, row by row, with comment lines starting with "#". Answers an empty
 /// text or what is wrong.
-std::string Parse_Magnetic_Grid(std::string_view text, Coarse_Grid& grid);
+std::string Parse_Magnetic_Grid(const std::string& text, Coarse_Grid& grid);
 
 /// The variation at a whole degree (latitude -90 to 90, longitude 0 to 359), between its four
 /// neighbours of the grid; -180 to 180. Between 170 and -170 it goes through 180.
 double Variation_At(const Coarse_Grid& grid, int lat, int lon);
-
-/// The simulator's file magdec.bgl: the variation of every whole degree.
-Bytes Magdec_File(const Coarse_Grid& grid);
 
 }  // namespace world

@@ -1,91 +1,126 @@
-#include <cerrno>
-#include <cstring>
-#include <fstream>
-#include <iostream>
-#include <iterator>
-#include <utility>
+#include <charconv>
+#include <cstdio>
+#include <optional>
+#include <string_view>
 
-#include "tools/demo_airports.h"
-#include "tools/demo_airspaces.h"
-#include "tools/invented_airports.h"
-#include "tools/invented_airspaces.h"
-#include "tools/options.h"
+#include "tools/moved_airports.h"
 #include "tools/world_folder.h"
 
-// Writes worlds to try Skerrand with: the demonstration world, and invented ones of any size.
+// Writes worlds to try Skerrand with: the demonstration world, and larger ones of any size.
 
 namespace {
 
 namespace fs = std::filesystem;
 
-// Real airports lie few to a file, so that several files take part; invented ones as many as make
-// some hundred files of a world of 27,000.
+// Real airports lie few to a file, so that several files take part; moved ones as many as make some
+// hundred files of a world of 27,000.
 constexpr int Real_Airports_Of_File = 4;
-constexpr int Invented_Airports_Of_File = 80;
-
 constexpr int Real_Airspace_Files = 8;
+constexpr int Moved_Airports_Of_File = 80;
+constexpr int Moved_Airspaces_Of_File = 80;
 
-std::string Read_Text(const fs::path& file, std::string& text) {
-    std::ifstream stream(file, std::ios::binary);
-    if (stream) text.assign(std::istreambuf_iterator<char>(stream), {});
-    if (stream) return "";
-    return "cannot read " + file.string() + ": " + std::strerror(errno);
-}
+constexpr const char* Help_Text =
+    R"(Usage: make_world FOLDER [--data DIR] [--airports N]
 
-std::string Read_Variation(const fs::path& file, world::Coarse_Grid& grid) {
-    std::string text;
-    std::string fault = Read_Text(file, text);
-    if (!fault.empty()) return fault + "; --data tells where the facts lie";
-    fault = world::Parse_Magnetic_Grid(text, grid);
-    return fault.empty() ? "" : file.string() + ": " + fault;
-}
+Writes a simulator's main folder that Skerrand can read: fs2002.exe (an empty
+marker), scenery.cfg, the magnetic grid and scenery files with airports and
+airspaces. FOLDER is created; if it holds a world that make_world wrote, that
+one is replaced, and any other folder that is not empty is refused.
 
-std::string Read_Airports(const fs::path& file, std::vector<world::Airport_Facts>& airports) {
-    std::string text;
-    std::string fault = Read_Text(file, text);
-    if (!fault.empty()) return fault;
-    fault = world::Parse_Airports(text, airports);
-    return fault.empty() ? "" : file.string() + ": " + fault;
-}
+  --data DIR    where the facts lie (demo_airports.txt, magnetic_variation.txt)
+                if not in the folder "data" beside this program
+  --airports N  N airports that do not exist instead of the real ones, at most
+                456976: the real ones with other names at other places, most of
+                them cut down to a strip, and airspaces in proportion
+  --help        show this text
 
-std::string Make_World(const world::Options& options) {
-    const fs::path data = options.data;
-    world::World made;
-    std::string fault = Read_Variation(data / "magnetic_variation.txt", made.variation);
-    if (!fault.empty()) return fault;
-    if (options.airports) {
-        made.airports = world::Invent_Airports(*options.airports, options.seed);
-        made.airports_of_file = Invented_Airports_Of_File;
-        const int airspaces = world::Airspaces_For(*options.airports);
-        made.airspaces = world::Invent_Airspaces(made.airports, airspaces);
-        made.airspace_files = world::Airspace_Files_For(*options.airports);
-    } else {
-        fault = Read_Airports(data / "demo_airports.txt", made.airports);
-        made.airports_of_file = Real_Airports_Of_File;
-        if (!fault.empty()) return fault;
-        made.airspaces = world::Demo_Airspaces(made.airports);
-        made.airspace_files = Real_Airspace_Files;
+Exit status: 0 if the world was written, 1 if not, 2 if the command line is wrong.
+)";
+
+struct Options {
+    std::string folder;
+    fs::path data;
+    std::optional<int> airports;
+    bool help = false;
+};
+
+/// Answers an empty text or what is wrong with the command line.
+std::string Take_Value(std::string_view option, std::string_view value, Options& options) {
+    if (option == "--data") {
+        options.data = value;
+        return "";
     }
+    int count = -1;
+    const char* const end = value.data() + value.size();
+    const bool is_number = std::from_chars(value.data(), end, count).ptr == end;
+    options.airports = count;
+    if (is_number && count >= 0 && count <= world::Most_Moved_Airports) return "";
+    return "--airports takes a number from 0 to " + std::to_string(world::Most_Moved_Airports);
+}
+
+std::string Parse_Options(int argc, const char* const* argv, Options& options) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        std::string fault;
+        if (argument == "--help" || argument == "-h") {
+            options.help = true;
+            return "";
+        }
+        if (argument == "--data" || argument == "--airports") {
+            if (i + 1 == argc) return std::string(argument) + " needs a value";
+            fault = Take_Value(argument, argv[++i], options);
+        } else if (argument.starts_with('-')) {
+            fault = "unknown option " + std::string(argument);
+        } else if (!options.folder.empty()) {
+            fault = "more than one folder";
+        } else {
+            options.folder = argument;
+        }
+        if (!fault.empty()) return fault;
+    }
+    return options.folder.empty() ? "no folder to write to" : "";
+}
+
+std::string Make_World(const Options& options) {
+    const fs::path variation = options.data / "magnetic_variation.txt";
+    const fs::path airports = options.data / "demo_airports.txt";
+    std::string variation_text;
+    std::string airports_text;
+    world::World made;
+    std::string fault = world::Read_File(variation, variation_text);
+    if (fault.empty()) fault = world::Read_File(airports, airports_text);
+    if (!fault.empty()) return fault + "; --data tells where the facts lie";
+    fault = world::Parse_Magnetic_Grid(variation_text, made.variation);
+    if (!fault.empty()) return variation.string() + ": " + fault;
+    fault = world::Parse_Airports(airports_text, made.airports);
+    if (!fault.empty()) return airports.string() + ": " + fault;
+
+    if (options.airports) made.airports = world::Moved_Airports(made.airports, *options.airports);
+    made.airspaces = world::Airspaces_Of(made.airports);
+    made.airports_of_file = options.airports ? Moved_Airports_Of_File : Real_Airports_Of_File;
+    made.airspace_files =
+        options.airports ? static_cast<int>(made.airspaces.size()) / Moved_Airspaces_Of_File + 1
+                         : Real_Airspace_Files;
     fault = world::Prepare_Folder(options.folder);
     return fault.empty() ? world::Write_World(options.folder, std::move(made)) : fault;
+}
+
+int Fail(const std::string& fault, int status) {
+    std::fputs(("make_world: " + fault + "\n").c_str(), stderr);
+    return status;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    world::Options options;
-    options.data = SKERRAND_DATA_DIR;
-    std::string fault = world::Parse_Options(argc, argv, options);
-    if (!fault.empty()) {
-        std::cerr << "make_world: " << fault << "\nmake_world --help tells more.\n";
-        return 2;
-    }
+    Options options;
+    options.data = fs::path(argv[0]).parent_path() / "data";
+    std::string fault = Parse_Options(argc, argv, options);
+    if (!fault.empty()) return Fail(fault + "\nmake_world --help tells more.", 2);
     if (options.help) {
-        std::cout << world::Help_Text;
+        std::fputs(Help_Text, stdout);
         return 0;
     }
     fault = Make_World(options);
-    if (fault.empty()) return 0;
-    std::cerr << "make_world: " << fault << "\n";
-    return 1;
+    return fault.empty() ? 0 : Fail(fault, 1);
 }

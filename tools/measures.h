@@ -1,12 +1,16 @@
 #pragma once
 
-#include "tools/world_facts.h"
-
-/// The measures round one airport, in the two ways in which scenery files have them.
+/// Positions on the globe, and lengths and directions between them. Degrees, north and east
+/// positive; courses are true and may have any number of turns.
 namespace world {
 
+struct Position {
+    double lat = 0;
+    double lon = 0;
+};
+
 /// Metres along a meridian and along the great circle that leaves due east, 1852 to the minute of
-/// arc. Taxi points and parkings stand so, relative to their airport.
+/// arc. Taxi points and parkings stand so in scenery files, relative to their airport.
 struct Local_Metres {
     double east = 0;
     double north = 0;
@@ -14,7 +18,6 @@ struct Local_Metres {
 
 /// Of a position within a quarter of the globe of the reference, which is no pole.
 Local_Metres To_Local(Position reference, Position position);
-Position From_Local(Position reference, Local_Metres offset);
 
 /// A runway by its middle, as scenery files have it, on an Earth 40,007 km round.
 struct Runway_Line {
@@ -25,10 +28,8 @@ struct Runway_Line {
 
 Runway_Line Line_Of_Runway(Position end_1, Position end_2);
 
-/// A position as it comes back from the whole units of a scenery file.
-Position As_Stored(Position position);
-
-/// The difference of two longitudes, brought to -180 to 180.
-double Longitude_Between(double from, double to);
+/// The place that lies so many nautical miles, minutes of arc, on the great circle that leaves on
+/// that course.
+Position Place_From(Position from, double course, double miles);
 
 }  // namespace world

@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "tools/world_facts.h"
+#include "tools/airport_facts.h"
 
-/// Airspaces before they take the form of scenery files.
+/// Airspaces before they take the form of scenery files. None are real ones.
 namespace world {
 
 /// What a point of an outline does, by the number of its record in scenery files.
@@ -36,14 +36,16 @@ struct Airspace_Facts {
     std::string name;
     int low_ft = 0;
     int high_ft = 0;
-    Frequency frequency = 0;  ///< 0: none
-    std::string facility;     ///< who answers on that frequency
+    Frequency frequency = 0;    ///< 0: none
+    std::string facility = {};  ///< who answers on that frequency
     Position_Box box;
     Outline outline;
 };
 
-// The highest limits of the classes that charts tell apart, in feet.
-inline constexpr int Class_D_Top = 2500;
-inline constexpr int Class_C_Top = 4000;
+/// A table of large areas, then those that each airport with a tower has by the length of all its
+/// runways together: it is large (7.5 km; class B), middle (4 km; class C) or small (class D). All
+/// parts of one airport's airspace share the box of the whole, so that whoever finds one finds all,
+/// and are turned to its longest runway.
+std::vector<Airspace_Facts> Airspaces_Of(const std::vector<Airport_Facts>& airports);
 
 }  // namespace world
