@@ -1,111 +1,25 @@
-#include <algorithm>
-#include <benchmark/benchmark.h>
-#include <string>
-#include <vector>
+#include "bench/chart_bench.h"
 
 #include "app/settings.h"
-#include "bench/groups.h"
-#include "bench/timing.h"
+#include "bench/measure.h"
+#include "chart/airspace_layer.h"
 #include "chart/chart_view.h"
 #include "chart/current_chart.h"
 #include "chart/draw_chart.h"
 #include "chart/form4.h"
-#include "platform/files.h"
-#include "scenery/bgl_reader.h"
-#include "scenery/bgl_walk.h"
-#include "scenery/catalogue.h"
-#include "scenery/magnetic.h"
+#include "platform/program.h"
+#include "platform/window.h"
+#include "scenery/database.h"
 #include "scenery/tables.h"
 #include "selection/airspace_search.h"
+#include "selection/geodesy.h"
 #include "selection/picks.h"
-#include "simlink/live_poll.h"
 
 namespace bench {
 
 namespace {
 
 using namespace skerrand;
-
-std::size_t Elements_Of(const Airport_Info& airport) {
-    return airport.taxi_paths.size() + airport.taxi_points.size() + airport.parkings.size() +
-           airport.runways.size() + airport.ils.size();
-}
-
-/// Reads the airports and the list of files with airspaces of a simulator's folder.
-void Read_Scenery(const std::string& folder) {
-    fs_root = folder;
-    first_run = true;
-    database_ready = false;
-    Release_Airport_Table();
-    Release_Airspace_Files();
-    if (Load_Magdec(folder + "/scenery/magdec.bgl") != Magdec_Result::Loaded) {
-        Give_Up("no magnetic grid in " + folder);
-    }
-    if (!Read_Scenery_Cfg(folder + "/scenery.cfg")) Give_Up("no scenery.cfg in " + folder);
-    Resolve_Local_Paths({});
-    for (const Scenery_Area& area : scenery_areas) {
-        if (area.local.empty()) continue;
-        for (const std::string& name : platform::File_Names(area.local, ".bgl")) {
-            current_file = area.local + "\\" + name;
-            if (platform::Read_File(current_file, bgl_bytes, 1)) Walk_Bgl();
-        }
-    }
-    first_run = false;
-    database_ready = true;
-}
-
-void Draw(benchmark::State& state) {
-    Zoom_To(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
-        platform::Erase(form4::window);
-        Time(state, [] { Draw_Chart(); });
-    }
-}
-
-/// A second of the chart: the aircraft's values, and all layers about where it is.
-void Tick(benchmark::State& state) {
-    if (!chart_view.link_open) return state.SkipWithError("no link to a simulator");
-    Zoom_To(Zoom_Airport);
-    follow_aircraft = true;
-    for (auto _ : state) {
-        Time(state, Clock::Wall, Chart_Refresher_Timer);
-    }
-    follow_aircraft = false;
-    form4::Center_Airport(current_airport.lon, current_airport.lat);
-}
-
-/// All points of the airport, through the projection alone.
-void Project_Points(benchmark::State& state) {
-    Zoom_To(Zoom_Airport);
-    for (auto _ : state) {
-        Time(state, [] {
-            const Chart_Target target = Screen_Target();
-            std::int32_t sum = 0;
-            const auto take = [&target, &sum](double lat, double lon) {
-                const auto [x, y] = Project(target, lat, lon);
-                sum ^= x ^ y;
-            };
-            for (const Taxi_Point& point : current_airport.taxi_points)
-                take(point.lat, point.lon);
-            for (const Parking_Info& parking : current_airport.parkings) {
-                take(parking.lat, parking.lon);
-            }
-            for (const Runway_Info& runway : current_airport.runways) {
-                take(runway.lat_1, runway.lon_1);
-                take(runway.lat_2, runway.lon_2);
-            }
-            for (const Ils_Info& ils : current_airport.ils)
-                take(ils.lat, ils.lon);
-            benchmark::DoNotOptimize(sum);
-        });
-    }
-}
-
-std::string Draw_Name(int zoom) {
-    return "chart/draw/" + std::to_string(zoom);
-}
-
-}  // namespace
 
 void Zoom_To(int rate) {
     while (chart_view.zoom_rate < rate)
@@ -114,59 +28,95 @@ void Zoom_To(int rate) {
         Zoom_Out();
 }
 
-void Register_Chart() {
-    Register("chart/draw", Draw)
-        ->DenseRange(Zoom_Farthest, Zoom_Nearest)
-        ->Unit(benchmark::kMicrosecond)
-        ->Iterations(20);
-    Register("chart/project", Project_Points)->Unit(benchmark::kMicrosecond);
+void Erase() {
+    platform::Erase(form4::window);
 }
 
-void Register_Tick() {
-    Register("tick/chart", Tick)->Unit(benchmark::kMicrosecond)->Iterations(20);
+/// All points of the airport, through the projection alone.
+void Project_Points() {
+    std::int32_t sum = 0;
+    for (const Taxi_Point& point : current_airport.taxi_points)
+        sum ^= Project(Screen_Target(), point.lat, point.lon).x;
+    benchmark::DoNotOptimize(sum);
 }
 
-void Add_Tick_Row(const Results& results, std::vector<Row>& rows) {
-    rows.push_back(
-        Limited("  a whole tick with a simulator, at zoom 36", results.Median("tick/chart"), 0));
+/// At the zoom where it takes longest.
+void Draw_Worst(benchmark::State& state) {
+    int worst = 0;
+    double longest = 0;
+    for (int zoom = Zoom_Farthest; zoom <= Zoom_Nearest; ++zoom) {
+        Zoom_To(zoom);
+        double shortest = 1;
+        for (int i = 0; i < 5; ++i) {
+            Erase();
+            shortest = std::min(shortest, Time_Of(Clock::Processor, [] { Draw_Chart(); }));
+        }
+        if (shortest <= longest) continue;
+        worst = zoom;
+        longest = shortest;
+    }
+    Zoom_To(worst);
+    state.SetLabel("zoom " + std::to_string(worst));
+    Measure(
+        state, Clock::Processor, 10e-3, Erase, [] { Draw_Chart(); }, Project_Points);
 }
 
-void Show_Chart(const Folders& folders) {
-    Read_Scenery(folders.demo);
-    const auto largest = std::max_element(airport_table.begin(), airport_table.end(),
-                                          [](const Airport_Info& one, const Airport_Info& other) {
-                                              return Elements_Of(one) < Elements_Of(other);
-                                          });
-    if (largest == airport_table.end()) Give_Up("no airport in " + folders.demo);
-    departure_airport = *largest;
-    destination_airport = *largest;
-    Release_Airport_Table();
+/// Outlines of 40 points, one in four of them the end of an arc, each of its own size, place and
+/// centre within the first view.
+std::vector<Airspace_Info> Make_Airspaces(std::int64_t count) {
+    std::vector<Airspace_Info> airspaces(static_cast<std::size_t>(count));
+    for (int number = 0; Airspace_Info & airspace : airspaces) {
+        ++number;
+        airspace.class_label = number % 2 == 0 ? Label_Class_B : Label_Class_C;
+        const double lat = current_airport.lat + (number % 20 - 10) * 0.1;
+        const double lon = current_airport.lon + (number % 30 - 15) * 0.1;
+        airspace.boundary = {{Boundary_Kind::Point_Center, lat, lon, 0}};
+        for (int i = 0; i < 39; ++i) {
+            const Fix_Point at = Destination_NM(lat, lon, i * 9, 10 + number % 40);
+            const auto kind = i == 0       ? Boundary_Kind::Point_Start
+                              : i % 4 != 0 ? Boundary_Kind::Point_Line
+                                           : Boundary_Kind::Point_Arc_Cw;
+            airspace.boundary.push_back({kind, at.lat, at.lon, 0});
+        }
+    }
+    return airspaces;
+}
+
+void Draw_Outlines(benchmark::State& state) {
+    const std::vector<Airspace_Info> kept = current_airspaces;
+    current_airspaces = Make_Airspaces(state.range(0));
+    Zoom_To(static_cast<int>(state.range(1)));
+    Measure(
+        state, Clock::Processor, state.range(0) == 60 ? 12e-3 : 40e-3, Erase,
+        [] { Draw_Airspaces(Screen_Target()); }, Project_Points);
+    current_airspaces = kept;
+}
+
+}  // namespace
+
+void Add_Chart_Benchmarks() {
+    Add("chart/draw_worst", 50, Draw_Worst);
+    Add("chart/airspaces", 20, Draw_Outlines)
+        ->ArgNames({"count", "zoom"})
+        ->ArgsProduct({{60, 300}, {1, 9, 15, 22, 29, 36, 45, 55}});
+}
+
+void Show_Chart() {
+    app_path = platform::Current_Folder();
+    if (!Load_Settings(Settings_File)) Give_Up("no databases in the working folder");
+    airport_count = settings.airport_count;
+    airspace_file_count = settings.airspace_file_count;
+    if (!Read_Airport_Table() || !Read_Airspace_List()) Give_Up("the databases do not read back");
+    first_run = false;
+    database_ready = true;
+    const auto found = std::ranges::find(airport_table, "LFPG", &Airport_Info::icao_id);
+    if (found == airport_table.end()) Give_Up("no such airport");
+    departure_airport = *found;
+    destination_airport = *found;
     Search_Airspaces();
-    Open_Chart();
-}
-
-void Open_Chart() {
     platform::Show(form4::window);
     platform::SetWindowPos(form4::window, platform::Insert_After::HWND_TOPMOST, 0, 0, 1920, 1080,
                            platform::SWP_NOMOVE);
-}
-
-void Add_Chart_Rows(const Results& results, double limit, std::vector<Row>& rows) {
-    int worst = Zoom_Farthest;
-    for (int zoom = Zoom_Farthest; zoom <= Zoom_Nearest; ++zoom) {
-        if (results.Median(Draw_Name(zoom)) > results.Median(Draw_Name(worst))) worst = zoom;
-    }
-    const std::string title = "draw the chart of " + current_airport.icao_id + ", " +
-                              std::to_string(chart_view.screen_width) + " x " +
-                              std::to_string(chart_view.screen_height);
-    Row row = Compared(
-        results,
-        title + ", at zoom " + std::to_string(worst) + ", the slowest (projecting its points)",
-        Draw_Name(worst), "chart/project", 0);
-    row.target = "at most " + Time_Text(limit);
-    row.met = results.Median(Draw_Name(worst)) <= limit;
-    rows.push_back(row);
-    rows.push_back(Limited("  at zoom 9, the first view", results.Median(Draw_Name(9)), 0));
 }
 
 }  // namespace bench
