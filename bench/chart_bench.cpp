@@ -58,7 +58,7 @@ void Draw(benchmark::State& state) {
     Zoom_To(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         platform::Erase(form4::window);
-        Time(state, [] { Draw_Chart(); });
+        Time(state, [] { Draw_Chart(chart_view.screen); });
     }
 }
 
@@ -79,7 +79,7 @@ void Project_Points(benchmark::State& state) {
     Zoom_To(Zoom_Airport);
     for (auto _ : state) {
         Time(state, [] {
-            const Chart_Target target = Screen_Target();
+            const Chart_Target target = chart_view.screen;
             std::int32_t sum = 0;
             const auto take = [&target, &sum](double lat, double lon) {
                 const auto [x, y] = Project(target, lat, lon);
