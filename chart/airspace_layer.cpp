@@ -19,8 +19,6 @@ constexpr platform::Colour Magenta{255, 0, 255};
 constexpr int Course_To_Corner_Nw = 315;
 constexpr int Course_To_Corner_Se = 135;
 
-constexpr std::int32_t Longest_Radius = 32767;  // of a distance, nautical miles
-
 struct Place {
     double lat = 0;
     double lon = 0;
@@ -40,9 +38,8 @@ Pixel_Point Corner(const Pass& pass, int course, int miles) {
 
 void Draw_Circle(const Pass& pass, Boundary_Point& point) {
     point.radius = std::max(point.radius, 1);
-    const std::int32_t miles = std::min(point.radius, Longest_Radius);
-    const Pixel_Point nw = Corner(pass, Course_To_Corner_Nw, miles);
-    const Pixel_Point se = Corner(pass, Course_To_Corner_Se, miles);
+    const Pixel_Point nw = Corner(pass, Course_To_Corner_Nw, point.radius);
+    const Pixel_Point se = Corner(pass, Course_To_Corner_Se, point.radius);
     platform::Ellipse(pass.target.device, nw.x, nw.y, se.x, se.y);
 }
 

@@ -1,12 +1,11 @@
 // The chart in its window and on paper: one of everything, near the equator's start.
 
-#include "chart/printing.h"
-
 #include <gtest/gtest.h>
 #include <regex>
 
 #include "chart/chart_view.h"
 #include "chart/form4.h"
+#include "chart/printing.h"
 #include "platform/headless/program.h"
 #include "platform/headless/protocol.h"
 #include "selection/airspace_search.h"
@@ -23,7 +22,7 @@ std::string Ask(const std::string& command) {
 
 void Show_Chart() {
     using enum Boundary_Kind;
-    Airport_Info airport;
+    Airport_Info& airport = departure_airport = {};
     airport.airport_name = "Nowhere";
     airport.icao_id = "ZZZZ";
     airport.runways = {{"09L", "27R", 0, 0, 0, 0.01, 0, 91, 0, 0, 0}};
@@ -31,14 +30,10 @@ void Show_Chart() {
     airport.parkings = {{"GATE A 1", 0.001, 0, 50}};
     airport.taxi_points = {{0, 0, 0}, {0, 0.001, 0.001}};
     airport.taxi_paths = {{0, 0, 1, "TWY"}};
-    departure_airport = airport;
     departure_airspaces.assign(1, {});
     departure_airspaces[0].class_label = Label_Class_B;
-    departure_airspaces[0].boundary = {{Point_Start, 1, 0},
-                                       {Point_Line, 1, 1},
-                                       {Point_Center, 0, 0},
-                                       {Point_Arc_Cw, -1, 1},
-                                       {Point_Circle, 0, 0, 30}};
+    departure_airspaces[0].boundary = {
+        {Point_Start, 1, 0}, {Point_Line, 1, 1}, {Point_Arc_Cw, -1, 1}, {Point_Circle, 0, 0, 30}};
     platform::Show(form4::window);
 }
 
@@ -114,6 +109,35 @@ TEST_F(Chart_With_Printer, APreferenceSwitchesMoreOrLessThanItsOwn) {
                 EXPECT_NE(picture.find(c.stays), picture.npos) << c.box;
             }
         }
+    }
+}
+
+TEST_F(Chart_With_Printer, ATimerRunsInAStateWhereItShouldNot) {
+    const std::string live = "yes\nyes\n", paused = "no\nyes\n", dialog = "no\nno\n";
+    const std::pair<const char*, std::string> steps[] = {
+        {"advance 1000", live},
+        {"click Form4.p_r_refresh", paused},
+        {"click Form4.p_r_refresh", live},
+        {"minimise Form4", paused},
+        {"click Form4.Command2", paused},
+        {"restore Form4", live},
+        {"click Form4.pref1", dialog},
+        {"close Form5", live},
+        {"click Form4.skerrand_abot2", dialog},
+        {"close Form6", live},
+        {"click Form4.kb_assign1", dialog},
+        {"close Form7", live},
+        {"click Form4.p_r_refresh", paused},
+        {"resize Form4 900 700", live},
+        {"click Form4.p_r_refresh", paused},
+        {"click Form4.print_cht1", live},
+    };
+    for (const auto& [command, timers] : steps) {
+        Ask(command);
+        EXPECT_EQ(
+            Ask("get Form4.Chart_Refresher.enabled") + Ask("get Form4.KeyPress_Checker.enabled"),
+            timers)
+            << command;
     }
 }
 
