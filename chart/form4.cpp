@@ -273,7 +273,6 @@ void Command3_Click() {
 }
 
 void load_airpts_lst_Click() {
-    Stop_Timers();
     platform::Unload(window);
     platform::Show(form3::window);
 }

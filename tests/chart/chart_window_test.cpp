@@ -10,6 +10,7 @@
 #include "platform/headless/protocol.h"
 #include "selection/airspace_search.h"
 #include "selection/picks.h"
+#include "simlink/live_poll.h"
 
 namespace skerrand {
 namespace {
@@ -79,7 +80,10 @@ TEST_F(Chart_With_Printer, LayerShowsAtTheWrongZoomOrInTheWrongOrder) {
 TEST_F(Chart_With_Printer, PageDiffersFromThePictureBeyondFrameAndTitle) {
     for (const int zoom : {1, 22, 35, 36, 46, 55}) {
         Picture(zoom);
+        aircraft_lat = aircraft_lon = 0;
+        chart_view.link_open = true;  // the aircraft stays off the page
         const std::string page = Printed();
+        chart_view.link_open = false;
         Ask("resize Form4 2000 1400");  // so that its picture has the size of the page
         EXPECT_EQ(page, "rectangle 0 0 1900 1300 | solid 1 0,0,0 | hollow 0,0,0\n" + Picture(zoom) +
                             "rectangle 0 0 750 200 | solid 1 0,0,0 | solid 255,255,255\n"

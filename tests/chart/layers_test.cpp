@@ -71,12 +71,22 @@ TEST(Airport_Layers, PathIsDroppedDrawnTwiceOrReadOutsideItsTables) {
               "line 200 200 200 -200 | solid 2 192,192,192\n");
 }
 
+TEST(Airport_Layers, HalfAPathIsCutToWholeFeet) {
+    // 3 feet are 8.22e-6 degrees; half of them count as 2 feet, or 1e-5 degrees to 5 decimals.
+    Clear_Chart(0.0005, Zoom_Airport);
+    current_airport.taxi_points = {{0, 0, 0}, {0, 0, 8.22e-6}};
+    current_airport.taxi_paths = {{0, 0, 1, "A"}};
+    EXPECT_EQ(Drawn(), "line 200 200 203 200 | solid 2 192,192,192\ntext 204 200 A | 0,0,0\n");
+}
+
 TEST(Airport_Layers, RunwayOutsideTheViewIsGoneOrWithoutItsLabels) {
     Clear_Chart(0.01, Zoom_Airport);
     current_airport.runways = {{"18L", "36R", 0.02, 0, -0.02, 0, 0, 176, 356, 6000, 150}};
     const std::string line = "line 200 -200 200 600 | solid 2 0,192,0\n";
     EXPECT_EQ(Drawn(), line + "text 200 -200 18L  176* | 0,0,0\ntext 200 600 36R  356* | 0,0,0\n");
     show_runway_ids = show_runway_headings = false;
+    show_airport_name = true;  // of a place outside the view
+    current_airport.lat = 0.0101;
     EXPECT_EQ(Drawn(), line);
 }
 
