@@ -157,8 +157,8 @@ void Add_Chart_Rows(const Results& results, double limit, std::vector<Row>& rows
         if (results.Median(Draw_Name(zoom)) > results.Median(Draw_Name(worst))) worst = zoom;
     }
     const std::string title = "draw the chart of " + current_airport.icao_id + ", " +
-                              std::to_string(chart_view.screen_width) + " x " +
-                              std::to_string(chart_view.screen_height);
+                              std::to_string(chart_view.screen.width) + " x " +
+                              std::to_string(chart_view.screen.height);
     Row row = Compared(
         results,
         title + ", at zoom " + std::to_string(worst) + ", the slowest (projecting its points)",
