@@ -1,6 +1,5 @@
 #include "app/form5.h"
 
-#include "app/dialog.h"
 #include "chart/current_chart.h"
 #include "chart/form4.h"
 #include "platform/controls.h"
@@ -23,68 +22,29 @@ void Option2_Click();
 template <int Number>
 void Check_Click();
 
+/// A check box of the first frame.
+template <int Number>
+constexpr Control Box(const char* name, platform::Box at, const char* caption) {
+    return {.name = name,
+            .kind = Check,
+            .in = "Frame1",
+            .at = at,
+            .caption = caption,
+            .handler = Check_Click<Number>};
+}
+
 constexpr Control controls[] = {
     {.name = "Frame1", .kind = Frame, .at = {120, 120, 4575, 2295}, .caption = "Options"},
-    {.name = "Check1",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {120, 360, 1815, 195},
-     .caption = "Display Taxiways IDs",
-     .handler = Check_Click<1>},
-    {.name = "Check3",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {2520, 360, 1095, 195},
-     .caption = "Display ILS",
-     .handler = Check_Click<3>},
-    {.name = "Check2",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {120, 720, 1575, 195},
-     .caption = "Display Taxiways",
-     .handler = Check_Click<2>},
-    {.name = "Check4",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {2520, 720, 1575, 195},
-     .caption = "Display Airspace",
-     .handler = Check_Click<4>},
-    {.name = "Check5",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {120, 1080, 2055, 255},
-     .caption = "Display Gates\\Parkings",
-     .handler = Check_Click<5>},
-    {.name = "Check6",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {2520, 1080, 1335, 255},
-     .caption = "Follow Aircraft",
-     .handler = Check_Click<6>},
-    {.name = "Check7",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {120, 1440, 1935, 195},
-     .caption = "Display ILS Frequency",
-     .handler = Check_Click<7>},
-    {.name = "Check8",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {2520, 1440, 1815, 255},
-     .caption = "Display Runways IDs",
-     .handler = Check_Click<8>},
-    {.name = "Check9",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {120, 1800, 2295, 255},
-     .caption = "Display Runways Headings",
-     .handler = Check_Click<9>},
-    {.name = "Check10",
-     .kind = Check,
-     .in = "Frame1",
-     .at = {2520, 1800, 1935, 255},
-     .caption = "Display Airport's Name",
-     .handler = Check_Click<10>},
+    Box<1>("Check1", {120, 360, 1815, 195}, "Display Taxiways IDs"),
+    Box<3>("Check3", {2520, 360, 1095, 195}, "Display ILS"),
+    Box<2>("Check2", {120, 720, 1575, 195}, "Display Taxiways"),
+    Box<4>("Check4", {2520, 720, 1575, 195}, "Display Airspace"),
+    Box<5>("Check5", {120, 1080, 2055, 255}, "Display Gates\\Parkings"),
+    Box<6>("Check6", {2520, 1080, 1335, 255}, "Follow Aircraft"),
+    Box<7>("Check7", {120, 1440, 1935, 195}, "Display ILS Frequency"),
+    Box<8>("Check8", {2520, 1440, 1815, 255}, "Display Runways IDs"),
+    Box<9>("Check9", {120, 1800, 2295, 255}, "Display Runways Headings"),
+    Box<10>("Check10", {2520, 1800, 1935, 255}, "Display Airport's Name"),
     {.name = "Frame2",
      .kind = Frame,
      .at = {120, 2520, 4575, 855},
@@ -159,7 +119,7 @@ void Option2_Click() {
 }
 
 void Form_Load() {
-    Place_Dialog(window);
+    form4::Place_Dialog(window);
     for (const auto [box, flag] : choices)
         platform::Set_Checked(box, *flag);
     platform::Set_Checked(altimeter_unit == Unit_Millibars ? Option1 : Option2, true);

@@ -1,6 +1,5 @@
 #include "app/form6.h"
 
-#include "app/dialog.h"
 #include "chart/form4.h"
 
 namespace skerrand::form6 {
@@ -13,6 +12,15 @@ using enum platform::Control_Kind;
 void Form_Load();
 void Command1_Click();
 
+/// A line of the credits.
+constexpr Control Credit(const char* name, int top, const char* caption) {
+    return {.name = name,
+            .kind = Label,
+            .in = "Frame1",
+            .at = {240, top, 4335, 255},
+            .caption = caption};
+}
+
 constexpr Control controls[] = {
     {.name = "Label1",
      .kind = Label,
@@ -20,21 +28,9 @@ constexpr Control controls[] = {
      .caption = "SKERRAND VERSION 2.0",
      .font = {"MS Sans Serif", 18, true}},
     {.name = "Frame1", .kind = Frame, .at = {120, 1080, 4815, 3735}, .caption = "Credits"},
-    {.name = "Label2",
-     .kind = Label,
-     .in = "Frame1",
-     .at = {240, 360, 4335, 255},
-     .caption = "A chart of the airport at hand, for pilots of FS2002."},
-    {.name = "Label3",
-     .kind = Label,
-     .in = "Frame1",
-     .at = {240, 660, 4335, 255},
-     .caption = "Windows, drawing and printing: Qt 6, XCB and CUPS."},
-    {.name = "Label4",
-     .kind = Label,
-     .in = "Frame1",
-     .at = {240, 960, 4335, 255},
-     .caption = "Tests and benchmarks: GoogleTest, Google Benchmark."},
+    Credit("Label2", 360, "A chart of the airport at hand, for pilots of FS2002."),
+    Credit("Label3", 660, "On Linux: Qt 6, XCB and CUPS."),
+    Credit("Label4", 960, "Tests and benchmarks: GoogleTest, Google Benchmark."),
     {.name = "Label6",
      .kind = Label,
      .in = "Frame1",
@@ -49,15 +45,15 @@ constexpr Control controls[] = {
                 "OpenPrinting, for CUPS\r\n"
                 "The authors of GoogleTest and Google Benchmark\r\n"
                 "The Debian Project\r\n"
-                "The publishers of aeronautical data",
+                "Robin A. Peel and contributors, for their airports",
      .read_only = true,
      .multi_line = true},
     {.name = "Label5",
      .kind = Label,
      .in = "Frame1",
      .at = {240, 2400, 4335, 1215},
-     .caption = "The airports of the demonstration world come from public aeronautical "
-                "publications and free airport databases, its magnetic variation from the World "
+     .caption = "The airports of the demonstration world come from the free airport database of "
+                "Robin A. Peel and contributors (GNU GPL), its magnetic variation from the World "
                 "Magnetic Model 2015; its airspaces are made up. None of it is for navigation."},
     {.name = "Command1",
      .kind = Button,
@@ -81,7 +77,7 @@ constexpr platform::Window window = {.name = "Form6",
 namespace {
 
 void Form_Load() {
-    Place_Dialog(window);
+    form4::Place_Dialog(window);
 }
 
 void Command1_Click() {

@@ -17,22 +17,24 @@ bool show_runway_ids = false;
 bool show_runway_headings = false;
 std::uint8_t altimeter_unit = Unit_Millibars;
 
-double aircraft_lat = 0;
-double aircraft_lon = 0;
-std::int16_t aircraft_heading = 0;
-
 void Reset_Display_Flags() {
-    follow_aircraft = true;
-    show_ils = true;
-    show_ils_frequency = true;
-    show_taxiways = true;
-    show_taxiway_ids = true;
-    show_gates = true;
-    show_airspace = true;
-    show_airport_name = true;
-    show_runway_ids = true;
-    show_runway_headings = true;
+    for (bool* flag :
+         {&follow_aircraft, &show_ils, &show_ils_frequency, &show_taxiways, &show_taxiway_ids,
+          &show_gates, &show_airspace, &show_airport_name, &show_runway_ids, &show_runway_headings})
+        *flag = true;
     altimeter_unit = Unit_Inches;
+}
+
+std::string Active_Runway(const Airport_Info& airport) {
+    std::string id;
+    std::int32_t length = 0;
+    for (const Runway_Info& runway : airport.runways) {
+        if ((id.empty() && length == 0) || runway.length_ft > length) {
+            id = runway.id_1;
+            length = runway.length_ft;
+        }
+    }
+    return id;
 }
 
 }  // namespace skerrand

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "scenery/airport_info.h"
 #include "scenery/airspace_info.h"
 
-/// The chart on show: copies of one of the two picks, what is shown of them, and the aircraft.
+/// The chart on show: copies of one of the two picks, and what is shown of them.
 namespace skerrand {
 
 extern Airport_Info current_airport;
@@ -32,9 +33,7 @@ extern std::uint8_t altimeter_unit;
 /// All flags on, the unit inches of mercury.
 void Reset_Display_Flags();
 
-/// The aircraft at the last good poll: degrees, and a heading of -180 to 180.
-extern double aircraft_lat;
-extern double aircraft_lon;
-extern std::int16_t aircraft_heading;
+/// First designator of the longest runway, the first of equals; empty without a runway.
+std::string Active_Runway(const Airport_Info& airport);
 
 }  // namespace skerrand

@@ -11,14 +11,11 @@ namespace skerrand::form4 {
 extern const platform::Window window;
 
 extern const platform::Control_Ref Label1;  ///< the altimeter setting
-extern const platform::Control_Ref Label3;  ///< the zoom rate
 extern const platform::Control_Ref Label4;  ///< the word of the paused refresh
 extern const platform::Control_Ref Chart_Refresher;
-extern const platform::Control_Ref KeyPress_Checker;
 
 /// Handlers that the key poll calls too.
 void Command2_Click();        ///< "+": one zoom step in, and redraw
-void Command3_Click();        ///< "C": back to the airport
 void Command4_Click();        ///< "-": one zoom step out, and redraw
 void dp_airpt_chrt_Click();   ///< the departure airport's chart
 void dst_airpt_chrt_Click();  ///< the destination airport's chart
@@ -32,5 +29,9 @@ void Redraw();
 /// The refresh first, then the key poll.
 void Stop_Timers();
 void Start_Timers();
+
+/// Puts a dialog of the chart above all windows, the chart among them, in the screen's top left
+/// corner. To be called in its load.
+void Place_Dialog(const platform::Window& dialog);
 
 }  // namespace skerrand::form4

@@ -4,24 +4,15 @@
 #include <string>
 
 #include "app/messages.h"
-#include "chart/chart_view.h"
-#include "chart/colours.h"
 #include "chart/current_chart.h"
 #include "chart/draw_chart.h"
 #include "chart/form4.h"
-#include "chart/layer_pen.h"
-#include "platform/drawing.h"
 #include "platform/printer.h"
 #include "selection/rounding.h"
 
 namespace skerrand::form4 {
 
 namespace {
-
-void Set_Fine_Black_Pen(platform::Device_Context* device) {
-    Set_Pen(device, 1);
-    Set_Hollow(device, Black);
-}
 
 void Print_Frame(platform::Device_Context* device) {
     const platform::Size area = platform::Printable_Size();
@@ -39,8 +30,8 @@ void Print_Title(platform::Device_Context* device) {
     const double box_width = std::max(size_1.width, size_2.width);
     const double box_height = size_1.height + size_2.height;
 
-    platform::Set_Pen_Colour(device, Black);
-    platform::Set_Fill_Colour(device, White);
+    platform::Set_Pen_Colour(device, platform::Colour_Black);
+    platform::Set_Fill_Colour(device, platform::Colour_White);
     platform::Set_Fill_Style(device, platform::Fill_Style::Solid);
     platform::Rectangle(device, 0, 0, Round_To_Long(box_width), Round_To_Long(box_height));
     platform::Print_Line(title_1);
@@ -50,10 +41,10 @@ void Print_Title(platform::Device_Context* device) {
 /// False if the printer does not take the document.
 bool Print_Page() {
     if (!platform::Start_Page(current_airport.icao_id + " Chart")) return false;
-    platform::Device_Context* const device = platform::Printer_Device();
-    Set_Fine_Black_Pen(device);
+    platform::Device_Context* const device = chart_view.printer.device;
+    Set_Outline(device, 1, platform::Colour_Black);
     Print_Frame(device);
-    Print_Chart();
+    Draw_Chart(chart_view.printer);
     Print_Title(device);
     return platform::End_Document();
 }
@@ -62,10 +53,10 @@ bool Print_Page() {
 
 bool Set_Up_Printer() {
     if (!platform::Open_Printer()) return false;
-    Set_Fine_Black_Pen(platform::Printer_Device());
     const platform::Size sheet = platform::Paper_Size();
-    chart_view.printer_width = Round_To_Long(platform::Printer_Twips_To_Pixels_X(sheet.width));
-    chart_view.printer_height = Round_To_Long(platform::Printer_Twips_To_Pixels_Y(sheet.height));
+    chart_view.printer = {platform::Printer_Device(),
+                          Round_To_Long(platform::Printer_Twips_To_Pixels_X(sheet.width)),
+                          Round_To_Long(platform::Printer_Twips_To_Pixels_Y(sheet.height))};
     return true;
 }
 

@@ -4,12 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "app/dialog.h"
 #include "app/messages.h"
 #include "app/settings.h"
 #include "chart/form4.h"
 #include "keys/form8.h"
-#include "keys/key_names.h"
+#include "keys/keys.h"
 #include "platform/controls.h"
 #include "platform/files.h"
 
@@ -97,7 +96,7 @@ void List_Events() {
 }
 
 void Form_Load() {
-    Place_Dialog(window);
+    form4::Place_Dialog(window);
     settings_edit = settings;
     List_Events();
 }

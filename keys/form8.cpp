@@ -2,10 +2,9 @@
 
 #include <cstdint>
 
-#include "app/dialog.h"
+#include "chart/form4.h"
 #include "keys/form7.h"
-#include "keys/key_names.h"
-#include "keys/key_poll.h"
+#include "keys/keys.h"
 #include "platform/controls.h"
 #include "platform/keys.h"
 
@@ -74,7 +73,7 @@ constexpr std::int32_t Last_Refused_Code = 4;
 std::int32_t new_key = 0;  // none yet
 
 void Form_Load() {
-    Place_Dialog(window);
+    form4::Place_Dialog(window);
     new_key = 0;
 }
 

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "selection/angles.h"
 #include "selection/geodesy.h"
 #include "selection/rounding.h"
 

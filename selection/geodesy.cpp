@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "scenery/magnetic.h"
-#include "selection/angles.h"
 #include "selection/rounding.h"
 
 namespace skerrand {

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <charconv>
-#include <cstdint>
 #include <string>
 
 #include "app/messages.h"
@@ -17,6 +16,9 @@
 
 namespace skerrand {
 
+double aircraft_lat = 0;
+double aircraft_lon = 0;
+std::int16_t aircraft_heading = 0;
 double altimeter_value = 0;
 
 namespace {

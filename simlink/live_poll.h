@@ -1,6 +1,14 @@
 #pragma once
 
+#include <cstdint>
+
+/// The live values of the simulator, and the chart's tick that asks for them.
 namespace skerrand {
+
+/// The aircraft at the last good poll: degrees, and a heading of -180 to 180.
+extern double aircraft_lat;
+extern double aircraft_lon;
+extern std::int16_t aircraft_heading;
 
 /// The altimeter setting as last shown, in the unit of `altimeter_unit`: whole millibars, or inches
 /// of mercury to two decimals.

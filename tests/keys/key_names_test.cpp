@@ -1,4 +1,4 @@
-#include "keys/key_names.h"
+#include "keys/keys.h"
 
 #include <gtest/gtest.h>
 

@@ -36,6 +36,8 @@ bool Run(const Words& words) {
     } else if (step == "copy") {
         fs::copy(path, words.at(2),
                  fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    } else if (step == "ln") {
+        fs::create_symlink(words.at(2), words.at(3));
     } else if (step == "truncate") {
         fs::resize_file(path, std::stoull(words.at(2)));
     } else if (step == "write") {

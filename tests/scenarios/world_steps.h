@@ -12,6 +12,7 @@
 ///     folder PATH                   makes a folder, and those above it
 ///     write FILE TEXT               a file with that text and no line end
 ///     truncate FILE SIZE
+///     ln -s TARGET LINK
 ///     exists PATH, missing PATH, same FILE FILE
 ///
 /// A text has words parted by one blank. Answers an empty text, or what went wrong.

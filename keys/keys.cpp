@@ -1,9 +1,12 @@
-#include "keys/key_names.h"
+#include "keys/keys.h"
 
 #include <algorithm>
 #include <iterator>
 
+#include "app/settings.h"
+#include "chart/form4.h"
 #include "platform/keys.h"
+#include "simlink/live_poll.h"
 
 namespace skerrand {
 
@@ -14,7 +17,7 @@ struct Named_Key {
     const char* name;
 };
 
-/// Ascending by code. The digits of the keypad and the function keys are named by number.
+/// The digits of the keypad and the function keys are named by number.
 constexpr Named_Key named_keys[] = {
     {1, "[LBUTTON]"},       {2, "[RIGHT BUTTON]"},   {3, "[CANCEL]"},
     {4, "[MBUTTON]"},       {8, "[BACKSPACE]"},      {9, "[TAB]"},
@@ -45,6 +48,20 @@ std::string Bracketed(const char* name, std::int32_t number) {
     return "[" + std::string(name) + std::to_string(number) + "]";
 }
 
+struct Key_Command {
+    std::int32_t Settings_Rec::*key;
+    platform::Handler command;
+};
+
+/// The first row with a key takes it.
+constexpr Key_Command commands[] = {
+    {&Settings_Rec::key_departure, form4::dp_airpt_chrt_Click},
+    {&Settings_Rec::key_destination, form4::dst_airpt_chrt_Click},
+    {&Settings_Rec::key_zoom_in, form4::Command2_Click},
+    {&Settings_Rec::key_zoom_out, form4::Command4_Click},
+    {&Settings_Rec::key_pause, p_r_refresh_Click},
+};
+
 }  // namespace
 
 std::string Key_Name(std::int32_t code) {
@@ -52,11 +69,24 @@ std::string Key_Name(std::int32_t code) {
         return Bracketed("", code);
     if (code >= Numpad_0 && code <= Numpad_9) return Bracketed("NUMPAD ", code - Numpad_0);
     if (code >= F1 && code <= F24) return Bracketed("F", code - F1 + 1);
-    const auto* found = std::lower_bound(
-        std::begin(named_keys), std::end(named_keys), code,
-        [](const Named_Key& key, std::int32_t wanted) { return key.code < wanted; });
-    if (found != std::end(named_keys) && found->code == code) return found->name;
+    for (const Named_Key& key : named_keys) {
+        if (key.code == code) return key.name;
+    }
     return std::string(1, static_cast<char>(code));
+}
+
+bool Is_New_Press(std::int32_t code) {
+    return platform::GetAsyncKeyState(code) == (platform::Key_Down | platform::Key_Was_Pressed);
+}
+
+void KeyPress_Checker_Timer() {
+    for (std::int32_t code = platform::First_Key_Code; code <= platform::Last_Key_Code; ++code) {
+        if (!Is_New_Press(code)) continue;
+        const auto* found =
+            std::find_if(std::begin(commands), std::end(commands),
+                         [code](const Key_Command& row) { return settings.*row.key == code; });
+        if (found != std::end(commands)) found->command();
+    }
 }
 
 }  // namespace skerrand

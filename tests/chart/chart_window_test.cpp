@@ -1,0 +1,149 @@
+// The chart in its window and on paper: one of everything, near the equator's start.
+
+#include <gtest/gtest.h>
+#include <regex>
+
+#include "chart/chart_view.h"
+#include "chart/form4.h"
+#include "chart/printing.h"
+#include "platform/headless/program.h"
+#include "platform/headless/protocol.h"
+#include "selection/airspace_search.h"
+#include "selection/picks.h"
+#include "simlink/live_poll.h"
+
+namespace skerrand {
+namespace {
+
+/// An answer without its end.
+std::string Ask(const std::string& command) {
+    const std::string answer = platform::headless::Execute(command);
+    return answer.substr(0, answer.rfind("ok\n"));
+}
+
+void Show_Chart() {
+    using enum Boundary_Kind;
+    Airport_Info& airport = departure_airport = {};
+    airport.airport_name = "Nowhere";
+    airport.icao_id = "ZZZZ";
+    airport.runways = {{"09L", "27R", 0, 0, 0, 0.01, 0, 91, 0, 0, 0}};
+    airport.ils = {{"", 0, 0, 0, "110.3"}};
+    airport.parkings = {{"GATE A 1", 0.001, 0, 50}};
+    airport.taxi_points = {{0, 0, 0}, {0, 0.001, 0.001}};
+    airport.taxi_paths = {{0, 0, 1, "TWY"}};
+    departure_airspaces.assign(1, {});
+    departure_airspaces[0].class_label = Label_Class_B;
+    departure_airspaces[0].boundary = {
+        {Point_Start, 1, 0}, {Point_Line, 1, 1}, {Point_Arc_Cw, -1, 1}, {Point_Circle, 0, 0, 30}};
+    platform::Show(form4::window);
+}
+
+/// The window has 1000 by 700 pixels, the printer's sheet twice that.
+class Chart_With_Printer : public testing::Test {
+  protected:
+    void SetUp() override {
+        platform::headless::Begin(Show_Chart);
+        Ask("printer 2000 1400 1900 1300");
+        ASSERT_TRUE(form4::Set_Up_Printer());
+        Ask("resize Form4 1000 700");
+    }
+    static std::string Picture(int zoom) {
+        while (chart_view.zoom_rate < zoom)
+            form4::Command2_Click();
+        while (chart_view.zoom_rate > zoom)
+            form4::Command4_Click();
+        Ask("advance 1000");
+        return Ask("picture Form4");
+    }
+    static std::string Printed() {
+        Ask("click Form4.print_cht1");
+        Ask("restore Form4");
+        return Ask("page " + std::to_string(std::stoi(Ask("pages"))));
+    }
+};
+
+TEST_F(Chart_With_Printer, LayerShowsAtTheWrongZoomOrInTheWrongOrder) {
+    const auto looks = [](int zoom) {
+        return std::regex_replace(Picture(zoom), std::regex("(^|\n)(\\w+) [^|\n]*"), "$1$2 ");
+    };
+    EXPECT_EQ(looks(Zoom_Airport),
+              "ellipse | solid 2 128,64,64 | solid 128,64,64\ntext | 0,0,0\n"
+              "line | solid 2 192,192,192\ntext | 0,0,0\n"
+              "line | solid 2 0,192,0\ntext | 0,0,0\ntext | 0,0,0\n"
+              "line | solid 1 255,255,0\nline | solid 1 255,255,0\nline | solid 1 255,255,0\n"
+              "text | 0,0,0\ntext | 0,0,0\n");
+    EXPECT_EQ(looks(Zoom_Airport - 1),
+              "line | dashed 1 0,0,192\narc | dashed 1 0,0,192\n"
+              "ellipse | dashed 1 0,0,192 | hollow 0,0,192\ntext | 0,0,0\n");
+}
+
+TEST_F(Chart_With_Printer, PageDiffersFromThePictureBeyondFrameAndTitle) {
+    for (const int zoom : {1, 22, 35, 36, 46, 55}) {
+        Picture(zoom);
+        aircraft_lat = aircraft_lon = 0;
+        chart_view.link_open = true;  // the aircraft stays off the page
+        const std::string page = Printed();
+        chart_view.link_open = false;
+        Ask("resize Form4 2000 1400");  // so that its picture has the size of the page
+        EXPECT_EQ(page, "rectangle 0 0 1900 1300 | solid 1 0,0,0 | hollow 0,0,0\n" + Picture(zoom) +
+                            "rectangle 0 0 750 200 | solid 1 0,0,0 | solid 255,255,255\n"
+                            "text 0 0 Skerrand v2.0 | 0,0,0\ntext 0 100 Nowhere  (ZZZZ) | 0,0,0\n");
+        Ask("resize Form4 1000 700");
+    }
+}
+
+TEST_F(Chart_With_Printer, APreferenceSwitchesMoreOrLessThanItsOwn) {
+    const struct {
+        const char *box, *gone, *stays;
+        int zoom = 40;
+    } cases[] = {
+        {"Check1", "TWY", "192,192,192"},    {"Check2", "192,192,192", "GATE A 1"},
+        {"Check3", "255,255,0", "0,192,0"},  {"Check4", "dashed", "Nowhere", 9},
+        {"Check5", "128,64,64", "192,192"},  {"Check7", "110.3 Mhz", "255,255,0"},
+        {"Check8", "09L", "  91*"},          {"Check9", "91*", "09L"},
+        {"Check10", "Nowhere |", "0,192,0"},
+    };
+    for (const auto& c : cases) {
+        for (const int clicks : {0, 1, 2}) {
+            Ask("click Form4.pref1");
+            if (clicks > 0) Ask(std::string("click Form5.") + c.box);
+            Ask("close Form5");
+            for (const std::string& picture : {Picture(c.zoom), Printed()}) {
+                EXPECT_EQ(picture.find(c.gone) == picture.npos, clicks == 1) << c.box;
+                EXPECT_NE(picture.find(c.stays), picture.npos) << c.box;
+            }
+        }
+    }
+}
+
+TEST_F(Chart_With_Printer, ATimerRunsInAStateWhereItShouldNot) {
+    const std::string live = "yes\nyes\n", paused = "no\nyes\n", dialog = "no\nno\n";
+    const std::pair<const char*, std::string> steps[] = {
+        {"advance 1000", live},
+        {"click Form4.p_r_refresh", paused},
+        {"click Form4.p_r_refresh", live},
+        {"minimise Form4", paused},
+        {"click Form4.Command2", paused},
+        {"restore Form4", live},
+        {"click Form4.pref1", dialog},
+        {"close Form5", live},
+        {"click Form4.skerrand_abot2", dialog},
+        {"close Form6", live},
+        {"click Form4.kb_assign1", dialog},
+        {"close Form7", live},
+        {"click Form4.p_r_refresh", paused},
+        {"resize Form4 900 700", live},
+        {"click Form4.p_r_refresh", paused},
+        {"click Form4.print_cht1", live},
+    };
+    for (const auto& [command, timers] : steps) {
+        Ask(command);
+        EXPECT_EQ(
+            Ask("get Form4.Chart_Refresher.enabled") + Ask("get Form4.KeyPress_Checker.enabled"),
+            timers)
+            << command;
+    }
+}
+
+}  // namespace
+}  // namespace skerrand
