@@ -1,4 +1,5 @@
 #include <array>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <sched.h>
@@ -10,10 +11,9 @@
 
 #include "bench/groups.h"
 #include "bench/timing.h"
-#include "platform/headless/simulator.h"
+#include "platform/simulator/server.h"
+#include "platform/simulator/simulator.h"
 #include "simlink/fsuipc.h"
-#include "tools/simulator/instruments.h"
-#include "tools/simulator/server.h"
 
 // link_bench [--benchmark_...]: the exchange with a simulator, over the transport of the desktop
 // program, beside a byte that another process sends back.
@@ -46,13 +46,11 @@ void Send_Back(int socket) {
     }
 }
 
-void Simulate(int parent) {
-    std::string fault;
-    const auto server = simulator::Open_Server(Window_Class, fault);
-    if (server == nullptr) bench::Give_Up(fault);
-    simulator::Start(Window_Class, 0xFADE0006);
-    const std::array ends = {parent};
-    simulator::Serve(*server, ends, platform::headless::Answer_Batch);
+void Simulate() {
+    const std::string fault = platform::simulator::Open_Window(Window_Class);
+    if (!fault.empty() || !platform::simulator::Follow(getppid())) bench::Give_Up(fault);
+    platform::simulator::Start(Window_Class);
+    platform::simulator::Serve(platform::simulator::Answer_Batch);
 }
 
 bool Read_Value(std::uint32_t offset) {
@@ -113,12 +111,8 @@ int main(int argc, char** argv) {
     const pid_t sender = In_Child(bytes, Send_Back);
     echo = bytes[1];
     close(bytes[0]);
-    const std::array<int, 2> life = Connected_Pair();
-    const pid_t simulator = In_Child(life, [&](int parent) {
-        close(bytes[1]);
-        Simulate(parent);
-    });
-    close(life[0]);
+    const pid_t simulator = fork();
+    if (simulator == 0) Simulate();
     Open();
 
     bench::Register("link/byte", Exchange_Byte);
@@ -131,7 +125,7 @@ int main(int argc, char** argv) {
 
     skerrand::Close_Link();
     close(bytes[1]);
-    close(life[1]);
+    kill(simulator, SIGKILL);
     waitpid(sender, nullptr, 0);
     waitpid(simulator, nullptr, 0);
     std::filesystem::remove_all(folder);

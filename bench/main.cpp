@@ -9,7 +9,7 @@
 #include "bench/groups.h"
 #include "chart/current_chart.h"
 #include "platform/headless/program.h"
-#include "platform/headless/simulator.h"
+#include "platform/simulator/simulator.h"
 
 // skerrand_bench WORLD DEMO WORK [GROUP...] [--benchmark_...]: the benchmarks without a screen.
 
@@ -30,7 +30,7 @@ Folders folders;
 
 void Put(std::size_t offset, double value) {
     const auto word = static_cast<std::int32_t>(value);
-    std::memcpy(platform::headless::State_Area().data() + offset, &word, sizeof word);
+    std::memcpy(platform::simulator::stand_in.state_area.data() + offset, &word, sizeof word);
 }
 
 /// The simulator's aircraft, in its units to the quarter meridian and to the circle.
@@ -70,7 +70,7 @@ void Run(const Choice& choice, bench::Results& results, std::vector<bench::Row>&
     }
     if (choice.Has("airspaces") || choice.Has("chart")) {
         platform::headless::Begin([] {
-            platform::headless::Start_Simulator("UIPCMAIN");
+            platform::simulator::Start("UIPCMAIN");
             bench::Show_Chart(folders);
         });
     }

@@ -6,7 +6,6 @@
 #include "bench/timing.h"
 #include "platform/controls.h"
 #include "platform/headless/program.h"
-#include "platform/headless/timers.h"
 #include "scenery/tables.h"
 #include "selection/form3.h"
 

@@ -10,7 +10,6 @@
 #include "chart/colours.h"
 #include "chart/current_chart.h"
 #include "platform/headless/device.h"
-#include "platform/headless/picture_text.h"
 #include "scenery/magnetic.h"
 #include "selection/airspace_search.h"
 

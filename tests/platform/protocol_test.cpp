@@ -5,7 +5,6 @@
 
 #include "platform/controls.h"
 #include "platform/drawing.h"
-#include "platform/headless/folder_list.h"
 #include "platform/headless/program.h"
 #include "platform/message_box.h"
 #include "platform/program.h"

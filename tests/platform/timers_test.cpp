@@ -1,5 +1,3 @@
-#include "platform/headless/timers.h"
-
 #include <gtest/gtest.h>
 #include <string>
 

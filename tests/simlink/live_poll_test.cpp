@@ -6,7 +6,7 @@
 #include "chart/form4.h"
 #include "platform/headless/program.h"
 #include "platform/headless/protocol.h"
-#include "platform/headless/simulator.h"
+#include "platform/simulator/simulator.h"
 #include "simlink/fsuipc.h"
 
 namespace skerrand {
@@ -16,7 +16,7 @@ using platform::headless::Execute;
 
 TEST(Poll, RawValuesAreConvertedWrongly) {
     platform::headless::Begin([] {
-        platform::headless::Start_Simulator("UIPCMAIN");
+        platform::simulator::Start("UIPCMAIN");
         platform::Show(form4::window);
     });
     const struct {
@@ -52,8 +52,8 @@ TEST(Poll, RawValuesAreConvertedWrongly) {
 }
 
 TEST(Simulator, StateAreaIsReadOrWrittenOutsideOrOutOfPlace) {
-    platform::headless::Start_Simulator("UIPCMAIN");
-    const std::span<std::uint8_t> area = platform::headless::State_Area();
+    platform::simulator::Start("UIPCMAIN");
+    auto& area = platform::simulator::stand_in.state_area;
     std::int32_t result = 99;
     ASSERT_TRUE(Open_Link(6, result));
     area[0xFFFF] = 7;
