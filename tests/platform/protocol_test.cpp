@@ -7,6 +7,7 @@
 #include "platform/controls.h"
 #include "platform/drawing.h"
 #include "platform/headless/program.h"
+#include "platform/link.h"
 #include "platform/message_box.h"
 #include "platform/program.h"
 #include "tests/platform/scratch_folder.h"
@@ -37,12 +38,7 @@ void Click() {
     Message_Box("a\tb\r\nc\\d", Icon::Information, "\xE9");
 }
 
-struct Exchange {
-    const char* command;
-    const char* answer;
-};
-
-void Expect(std::initializer_list<Exchange> exchanges) {
+void Expect(std::initializer_list<std::pair<const char*, const char*>> exchanges) {
     for (const auto& [command, answer] : exchanges)
         EXPECT_EQ(Execute(command), answer) << command;
 }
@@ -112,17 +108,11 @@ TEST_F(Protocol, A_Verb_Is_Undocumented_Or_A_Documented_One_Unknown) {
 }
 
 TEST_F(Protocol, Measures_And_Looks_Are_Not_Those_Of_The_Table) {
-    Expect({{"forms", "Form9\nok\n"},
-            {"get Form9.client_width", "201\nok\n"},   // 200.53 pixels
-            {"get Form9.client_height", "200\nok\n"},  // 200.47
-            {"get Form9.height", "246\nok\n"},
-            {"get Form9.left", "64\nok\n"},
-            {"get Form9.Label1.font_size", "18\nok\n"},
-            {"get Form9.Label1.bold", "yes\nok\n"},
-            {"get Form9.Button1.font_size", "8.25\nok\n"},
-            {"get Form9.Label1.colour", "0,0,0\nok\n"},
-            {"get Form9.Button1.font", "MS Sans Serif\nok\n"},
-            {"get Form9.Timer1.enabled", "yes\nok\n"}});
+    std::istringstream values(
+        "client_width 201 client_height 200 height 246 left 64 Label1.font_size 18 "
+        "Label1.bold yes Button1.font_size 8.25 Label1.colour 0,0,0 Timer1.enabled yes");
+    for (std::string property, value; values >> property >> value;)
+        EXPECT_EQ(Execute("get Form9." + property), value + "\nok\n") << property;
 }
 
 TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
@@ -148,7 +138,6 @@ TEST_F(Protocol, Drives_Stand_In_Windows_Already_Loaded) {
     Unload(Sample);
     Show(Sample);
     Expect({{"items Form9.Drive1", "c: [SYSTEM]\nd:\nok\n"},
-            {"get Form9.Drive1.index", "-1\nok\n"},
             {"drive Form9.Drive1 1", "ok\n"},
             {"get Form9.Drive1.drive", "d:\nok\n"}});
 }
@@ -213,6 +202,45 @@ TEST(Folder_List, Path_Is_Not_Whole_Or_Ends_With_A_Separator) {
     };
     for (const auto& [given, whole] : cases)
         EXPECT_EQ(headless::Whole_Path(given), whole) << given;
+}
+
+std::string ticks;
+std::int64_t wait_at = -1;
+
+void Note(char name) {
+    ticks += name + std::to_string(headless::Clock()) + " ";
+    if (headless::Clock() == wait_at) Sleep(75);
+}
+
+constexpr Control first_controls[] = {
+    {.name = "A", .kind = Timer, .handler = [] { Note('a'); }, .interval = 30},
+    {.name = "B", .kind = Timer, .handler = [] { Note('b'); }, .interval = 20}};
+constexpr Control second_controls[] = {
+    {.name = "C", .kind = Timer, .handler = [] { Note('c'); }, .interval = 20}};
+constexpr Window First = {"First", "", 1500, 1500, first_controls};
+constexpr Window Second = {"Second", "", 1500, 1500, second_controls};
+
+std::string Ticks(std::int64_t milliseconds) {
+    ticks.clear();
+    headless::Advance(milliseconds);
+    return ticks + "at " + std::to_string(headless::Clock());
+}
+
+TEST(Timers, Ticks_Come_Out_Of_Order) {
+    headless::Begin([] {
+        Show(Second);
+        Show(First);
+    });
+    EXPECT_EQ(Ticks(60), "c20 b20 a30 c40 b40 c60 a60 b60 at 60");
+}
+
+TEST(Timers, A_Wait_Of_The_Program_Lets_A_Timer_Tick_Twice_Or_Shortens_An_Advance) {
+    wait_at = 30;
+    headless::Begin([] { Show(First); });
+    EXPECT_EQ(Ticks(60), "b20 a30 at 105");
+    EXPECT_EQ(Ticks(20), "b105 a105 b125 at 125");
+    Ticks(100);
+    EXPECT_EQ(headless::Clock(), 225);
 }
 
 }  // namespace
