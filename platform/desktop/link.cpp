@@ -7,7 +7,6 @@
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
-#include <string>
 #include <sys/mman.h>
 #include <sys/socket.h>
 #include <thread>
@@ -16,7 +15,7 @@
 #include "platform/posix/link_endpoint.h"
 
 // The window of the simulator is a connection to its socket, a message a packet there, and the
-// block sealed memory that goes along with each message.
+// block sealed memory that goes along with each message, so that no atom has to tell its name.
 namespace platform {
 
 namespace {
@@ -32,15 +31,9 @@ constexpr std::uint32_t Error_Not_Enough_Memory = 8;
 /// No other process can cut a block short, which would kill this one at its next touch.
 constexpr int Block_Seals = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_SEAL;
 
-struct Block {
-    std::string name;
-    std::uint32_t size = 0;
-    int file = -1;
-};
-
 int connection = -1;
-std::string atom;  // its text; the server never asks for it, since each message brings the block
-Block block;
+int block = -1;
+std::uint32_t block_size = 0;
 std::uint32_t last_error = 0;
 std::uint32_t last_sequence = 0;
 
@@ -54,21 +47,21 @@ bool Fail(std::uint32_t error) {
     return false;
 }
 
-/// A packet with the number of the message and the block that its atom names, if there is one.
-bool Send(std::uint32_t sequence, bool with_block) {
+/// A packet with the number of the message and the block, if there is one.
+bool Send(std::uint32_t sequence) {
     iovec packet{&sequence, sizeof sequence};
     msghdr message{};
     message.msg_iov = &packet;
     message.msg_iovlen = 1;
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof block.file)> control{};
-    if (with_block) {
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof block)> control{};
+    if (block >= 0) {
         message.msg_control = control.data();
         message.msg_controllen = control.size();
         cmsghdr* const head = CMSG_FIRSTHDR(&message);
         head->cmsg_level = SOL_SOCKET;
         head->cmsg_type = SCM_RIGHTS;
-        head->cmsg_len = CMSG_LEN(sizeof block.file);
-        std::memcpy(CMSG_DATA(head), &block.file, sizeof block.file);
+        head->cmsg_len = CMSG_LEN(sizeof block);
+        std::memcpy(CMSG_DATA(head), &block, sizeof block);
     }
     if (sendmsg(connection, &message, MSG_NOSIGNAL | MSG_DONTWAIT) >= 0) return true;
     // A server that leaves so many messages lying about that no more fit has stopped answering.
@@ -107,50 +100,46 @@ Message_Id RegisterWindowMessageA(const char*) {
     return The_Message;
 }
 
-Atom GlobalAddAtomA(const char* text) {
-    atom = text;
+Atom GlobalAddAtomA(const char*) {
     return The_Atom;
 }
 
-void GlobalDeleteAtom(Atom) {
-    atom.clear();
-}
+void GlobalDeleteAtom(Atom) {}
 
-Mapping_Handle CreateFileMappingA(std::uint32_t size, const char* name) {
-    last_error = block.file < 0 ? 0 : Error_Already_Exists;
+Mapping_Handle CreateFileMappingA(std::uint32_t size, const char*) {
+    last_error = block < 0 ? 0 : Error_Already_Exists;
     if (last_error != 0) return 0;
-    block = {name, size, memfd_create("skerrand", MFD_CLOEXEC | MFD_ALLOW_SEALING)};
+    block_size = size;
+    block = memfd_create("skerrand", MFD_CLOEXEC | MFD_ALLOW_SEALING);
     // The memory is taken here, since a lack of it later would end the process.
-    if (block.file >= 0 && posix_fallocate(block.file, 0, size) == 0 &&
-        fcntl(block.file, F_ADD_SEALS, Block_Seals) == 0) {
+    if (block >= 0 && posix_fallocate(block, 0, size) == 0 &&
+        fcntl(block, F_ADD_SEALS, Block_Seals) == 0) {
         return The_Mapping;
     }
-    Close(block.file);
+    Close(block);
     last_error = Error_Not_Enough_Memory;
     return 0;
 }
 
 void CloseHandle(Mapping_Handle) {
-    Close(block.file);
+    Close(block);
 }
 
 std::uint8_t* MapViewOfFile(Mapping_Handle) {
-    void* const view = mmap(nullptr, block.size, PROT_READ | PROT_WRITE, MAP_SHARED, block.file, 0);
+    void* const view = mmap(nullptr, block_size, PROT_READ | PROT_WRITE, MAP_SHARED, block, 0);
     if (view != MAP_FAILED) return static_cast<std::uint8_t*>(view);
     last_error = Error_Not_Enough_Memory;
     return nullptr;
 }
 
 void UnmapViewOfFile(std::uint8_t* view) {
-    munmap(view, block.size);
+    munmap(view, block_size);
 }
 
-bool SendMessageTimeoutA(Window_Handle, Message_Id, std::int32_t parameter, std::uint32_t time_out,
+bool SendMessageTimeoutA(Window_Handle, Message_Id, std::int32_t, std::uint32_t time_out,
                          std::uint32_t& reply) {
     const Clock::time_point end = Clock::now() + std::chrono::milliseconds(time_out);
-    const bool names_block = static_cast<Atom>(parameter) == The_Atom && atom == block.name;
-    return Send(++last_sequence, names_block && block.file >= 0) &&
-           Receive(last_sequence, end, reply);
+    return Send(++last_sequence) && Receive(last_sequence, end, reply);
 }
 
 std::uint32_t GetLastError() {

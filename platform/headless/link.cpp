@@ -1,13 +1,11 @@
 #include "platform/link.h"
 
-#include <string>
 #include <vector>
 
 #include "platform/headless/program.h"
 #include "platform/simulator/simulator.h"
 
-// Both ends of the link in one process: the simulator finds the block by the atom, as it would from
-// outside.
+// Both ends of the link in one process. There is one block, so its name and the atom say nothing.
 namespace platform {
 
 namespace {
@@ -19,16 +17,14 @@ constexpr Message_Id Link_Message = 0xC000;
 constexpr Atom Link_Atom = 0xC000;
 constexpr Mapping_Handle Link_Mapping = 1;
 
-std::string atom;        // its text
-std::string block_name;  // empty if there is no block
+bool has_block = false;
 std::vector<std::uint8_t> block;
 std::uint32_t last_error = 0;
 
 }  // namespace
 
 void headless::Reset_Link() {
-    atom.clear();
-    block_name.clear();
+    has_block = false;
     simulator::stand_in = {};
 }
 
@@ -41,25 +37,22 @@ Message_Id RegisterWindowMessageA(const char*) {
     return Link_Message;
 }
 
-Atom GlobalAddAtomA(const char* text) {
-    atom = text;
+Atom GlobalAddAtomA(const char*) {
     return Link_Atom;
 }
 
-void GlobalDeleteAtom(Atom) {
-    atom.clear();
-}
+void GlobalDeleteAtom(Atom) {}
 
-Mapping_Handle CreateFileMappingA(std::uint32_t size, const char* name) {
-    last_error = block_name.empty() ? 0 : Error_Already_Exists;
-    if (last_error != 0) return 0;
-    block_name = name;
+Mapping_Handle CreateFileMappingA(std::uint32_t size, const char*) {
+    last_error = has_block ? Error_Already_Exists : 0;
+    if (has_block) return 0;
+    has_block = true;
     block.assign(size, 0);
     return Link_Mapping;
 }
 
 void CloseHandle(Mapping_Handle) {
-    block_name.clear();
+    has_block = false;
 }
 
 std::uint8_t* MapViewOfFile(Mapping_Handle) {
@@ -68,12 +61,11 @@ std::uint8_t* MapViewOfFile(Mapping_Handle) {
 
 void UnmapViewOfFile(std::uint8_t*) {}
 
-bool SendMessageTimeoutA(Window_Handle, Message_Id, std::int32_t parameter, std::uint32_t,
+bool SendMessageTimeoutA(Window_Handle, Message_Id, std::int32_t, std::uint32_t,
                          std::uint32_t& reply) {
     last_error = stand_in.window_class.empty() ? Error_Invalid_Window : 0;
     if (last_error != 0) return false;
-    const bool names_block = static_cast<Atom>(parameter) == Link_Atom && atom == block_name;
-    reply = names_block && !block_name.empty() ? simulator::Answer_Batch(block) : 0;
+    reply = has_block ? simulator::Answer_Batch(block) : 0;
     return true;
 }
 

@@ -32,6 +32,7 @@ constexpr Control controls[] = {
     {.name = "Timer1", .kind = Timer, .interval = 1000},
 };
 
+constexpr Window Box = {"Form7", "", 1500, 1500, {}, Frame_Style::Dialog};
 constexpr Window Sample = {"Form9", "\x80 ok", 3008, 3007, controls, Frame_Style::Sizable};
 
 void Click() {
@@ -118,19 +119,27 @@ TEST_F(Protocol, Measures_And_Looks_Are_Not_Those_Of_The_Table) {
 TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
     Set_Enabled(Find_Control(Sample, "Frame1"), false);
     Set_Enabled(Find_Control(Sample, "Combo1"), false);
+    Show(Box);
     Expect({{"click Form9.Check1", "error disabled\n"},
             {"pick Form9.Combo1 1", "error disabled\n"},
             {"type Form9.Combo1 x", "error disabled\n"},
+            {"minimise Form7", "error this window cannot be minimised\n"},
+            {"resize Form7 99 99", "error this window cannot be resized\n"},
             {"minimise Form9", "ok\n"},
             {"resize Form9 300 300", "error this window cannot be resized\n"},
-            {"click Form9.Button1", "ok\n"},
-            {"restore Form9", "ok\n"}});
+            {"click Form9.Button1", "ok\n"}});
     Set_Enabled(Sample, false);
-    Expect({{"click Form9.Button1", "error disabled\n"}, {"close Form9", "error disabled\n"}});
+    Expect({{"click Form9.Button1", "error disabled\n"},
+            {"restore Form9", "error disabled\n"},
+            {"close Form9", "error disabled\n"}});
     Set_Enabled(Find_Control(Sample, "Combo1"), true);
     Set_Enabled(Sample, true);
+    SetWindowPos(Sample, Insert_After::HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     Expect({{"type Form9.Combo1  a  \u00E9 ", "ok\n"},
-            {"get Form9.Combo1.text", " a  \u00E9 \nok\n"}});
+            {"get Form9.Combo1.text", " a  \u00E9 \nok\n"},
+            {"get Form9.topmost", "yes\nok\n"},
+            {"untop Form9", "ok\n"},
+            {"get Form9.topmost", "no\nok\n"}});
 }
 
 TEST_F(Protocol, Drives_Stand_In_Windows_Already_Loaded) {

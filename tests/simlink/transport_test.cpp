@@ -45,7 +45,6 @@ class Transport : public testing::Test {
     void SetUp() override {
         setenv("XDG_RUNTIME_DIR", scratch.Path().c_str(), 1);
         skerrand::Clear_Link();
-        GlobalAddAtomA("block");
         block = CreateFileMappingA(0x8000, "block");
     }
     void TearDown() override {
@@ -67,14 +66,11 @@ class Transport : public testing::Test {
         waitpid(std::exchange(server, 0), nullptr, 0);
     }
     /// The reply to a message about the block; 1000 and the error if there is none.
-    static std::uint32_t Reply(std::uint32_t time_out = Long_Enough, std::int32_t atom = -0x4000) {
+    static std::uint32_t Reply(std::uint32_t time_out = Long_Enough) {
         std::uint32_t reply = 99;
-        const bool sent = SendMessageTimeoutA(1, 0, atom, time_out, reply);
+        const bool sent = SendMessageTimeoutA(1, 0, 0, time_out, reply);
         return sent ? reply : 1000 + GetLastError();
     }
-
-    /// The same with another atom, which brings no block.
-    static std::uint32_t No_Block() { return Reply(Long_Enough, -0x3FFF); }
 
     Scratch_Folder scratch;
     std::int32_t result = 99;
@@ -85,9 +81,9 @@ class Transport : public testing::Test {
 TEST_F(Transport, Killed_Client_Leaves_Something_Behind) {
     simulator::Start(Class);
     Start_Server(simulator::Answer_Batch);
-    EXPECT_EQ(No_Block(), 0U);
-    const std::ptrdiff_t files = Open_Files(server);
     CloseHandle(block);
+    EXPECT_EQ(Reply(), 0U);
+    const std::ptrdiff_t files = Open_Files(server);
     for (const int signal : {SIGKILL, SIGCONT}) {
         const pid_t client =
             In_Child([&] { return skerrand::Open_Link(6, result) && raise(signal) == 0; });
@@ -96,7 +92,7 @@ TEST_F(Transport, Killed_Client_Leaves_Something_Behind) {
         std::snprintf(name.data(), name.size(), "/dev/shm/FSASMLIB:IPC:%X:1", unsigned(client));
         EXPECT_FALSE(std::filesystem::exists(name.data()));
     }
-    EXPECT_EQ(No_Block() + No_Block(), 0U);  // by the second one the server has seen the ends
+    EXPECT_EQ(Reply() + Reply(), 0U);  // by the second one the server has seen the ends
     EXPECT_EQ(Open_Files(server), files);
     EXPECT_TRUE(std::filesystem::is_empty(scratch.Path()));
 }
@@ -129,6 +125,20 @@ TEST_F(Transport, Crash_Of_The_Server_Harms_The_Client_Or_Blocks_The_Next_Server
     EXPECT_EQ(FindWindowExA(Class), 0U);
     Start_Server([](auto) { return 7; });
     EXPECT_EQ(Reply(), 7U);
+}
+
+TEST_F(Transport, Server_Outlives_The_Process_That_It_Follows) {
+    const pid_t followed = In_Child([] { return pause() == 0; });
+    const pid_t follower = In_Child([&] {
+        alarm(20);
+        const bool follows = simulator::Follow(followed) && simulator::Wait(10);
+        kill(followed, SIGKILL);
+        simulator::Serve([](auto) { return 1; });
+        return follows && !simulator::Wait(Long_Enough);
+    });
+    EXPECT_TRUE(Ended_Well(follower));
+    EXPECT_FALSE(Ended_Well(followed));
+    EXPECT_FALSE(simulator::Follow(followed));
 }
 
 TEST_F(Transport, Lying_Server_Is_Believed_Or_Holds_The_Client) {
@@ -173,8 +183,8 @@ TEST_F(Transport, Lying_Server_Is_Believed_Or_Holds_The_Client) {
 
 TEST_F(Transport, Hostile_Client_Ends_The_Server_Or_Stands_In_For_Another_User) {
     Start_Server([](auto) { return 7; });
-    EXPECT_EQ(No_Block(), 0U);
     CloseHandle(block);
+    EXPECT_EQ(Reply(), 0U) << "no block";
     block = CreateFileMappingA(0x7FFF, "block");
     EXPECT_EQ(Reply(), 0U) << "a block too short";
     const auto is_dropped = [](std::size_t size) {
