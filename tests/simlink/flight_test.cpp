@@ -50,11 +50,9 @@ TEST(Flight, Jumps_Or_Points_Elsewhere_Or_Does_Not_Arrive) {
         const std::vector<Leg> flight = Plan_Flight(c.departure, &c.destination);
         constexpr double Step = 0.5;
         double way = 0, fastest = 0;
-        const Aircraft start = Aircraft_At(flight, -1), soon = Aircraft_At(flight, 10);
-        Aircraft before = start;
-        EXPECT_NEAR(std::remainder(start.heading - c.heading, 360), 0, 0.1);
-        EXPECT_NEAR(Distance(start.lat, start.lon, soon.lat, soon.lon), 100, 1)
-            << "too fast a start";
+        Aircraft before = Aircraft_At(flight, -1), soon = Aircraft_At(flight, 10);
+        EXPECT_NEAR(std::remainder(before.heading - c.heading, 360), 0, 0.1);
+        EXPECT_NEAR(Distance(before.lat, before.lon, soon.lat, soon.lon), 100, 1) << "a fast start";
         for (double time = Step; time < Duration(flight) + 2; time += Step) {
             const Aircraft now = Aircraft_At(flight, time);
             const double moved = Distance(before.lat, before.lon, now.lat, now.lon);
@@ -89,19 +87,15 @@ TEST(Simulator_Options, Command_Line_Misread) {
     const std::pair<std::vector<const char*>, const char*> cases[] = {
         {{"", "--destination", "KSEA"}, "--destination goes with --departure"},
         {{"", "--departure"}, "--departure needs a value"},
-        {{"", "--departure", ""}, "--departure does not take "},
         {{"", "--speed-up", "nan"}, "--speed-up does not take nan"},
         {{"", "--altimeter", "4096"}, "--altimeter does not take 4096"},
-        {{"", "--follow", "0"}, "--follow does not take 0"},
         {{"", "--die-after", "1x"}, "--die-after does not take 1x"},
-        {{"", "--fly"}, "unknown option --fly"},
-        {{"", "--version", "fade0007", "--die-after", "0", "--altimeter", "29.5", "--fs98"}, ""},
+        {{"", "--version", "fade0007", "--fs98", "--fly"}, "unknown option --fly"},
     };
     Options options;
     for (const auto& [words, fault] : cases)
         EXPECT_EQ(Parse_Options(static_cast<int>(words.size()), words.data(), options = {}), fault);
-    EXPECT_TRUE(options.version == 0xFADE0007 && options.answers == 0 &&
-                options.altimeter == 29.5 && options.fs98 && !options.refuse);
+    EXPECT_TRUE(options.version == 0xFADE0007 && options.fs98 && !options.refuse);
 }
 
 }  // namespace

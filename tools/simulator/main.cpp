@@ -52,8 +52,8 @@ std::string Plan(const Options& options, std::vector<Leg>& flight) {
     if (!options.destination.empty()) destination = Find_Airport(options.destination, fault);
     if (!fault.empty()) return fault;
     flight = Plan_Flight(*departure, destination);
-    std::printf("%s to %s, %.0f minutes\n", departure->icao_id.c_str(),
-                destination == nullptr ? "nowhere" : destination->icao_id.c_str(),
+    const std::string way = destination == nullptr ? " straight on" : " to " + destination->icao_id;
+    std::printf("%s%s, %.0f minutes\n", departure->icao_id.c_str(), way.c_str(),
                 Duration(flight) / 60);
     std::fflush(stdout);
     return "";
