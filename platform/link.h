@@ -4,7 +4,8 @@
 
 /// The operations behind the link to the simulator: a named block of shared memory, and a message
 /// to a window of another program that makes that program work on the block. Each is its native
-/// namesake without the arguments that never change.
+/// namesake without the arguments that never change. The program has one link at a time: a back-end
+/// may hold no more than one window, atom and block, and forget a window when it looks for another.
 namespace platform {
 
 using Window_Handle = std::uint32_t;
@@ -22,12 +23,15 @@ Message_Id RegisterWindowMessageA(const char* name);
 Atom GlobalAddAtomA(const char* text);
 void GlobalDeleteAtom(Atom atom);
 
-/// Makes a block of that many bytes that other programs can open by its name; 0 on failure. If a
-/// block of that name stands already, the answer is a handle of that one, and `GetLastError` tells.
+/// Makes a block of that many bytes, all 0, which the receiver of a message finds by its name; 0 on
+/// failure. If a block of that name stands already, `GetLastError` answers `Error_Already_Exists`:
+/// that one is not to be used, and if there is a handle nevertheless, it is to be closed.
 Mapping_Handle CreateFileMappingA(std::uint32_t size, const char* name);
 void CloseHandle(Mapping_Handle mapping);
 
-/// The block's bytes, to read and write; null on failure.
+/// The block's bytes, to read and write until they are unmapped, which comes ahead of the closing;
+/// null on failure. No other process can take them away, though the receiver of a message may write
+/// to them at any time.
 std::uint8_t* MapViewOfFile(Mapping_Handle mapping);
 void UnmapViewOfFile(std::uint8_t* view);
 

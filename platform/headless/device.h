@@ -62,6 +62,22 @@ struct Device_Context {
 
 namespace headless {
 
+/// The call with the state that it was made in, as `picture` and `page` show it. Windows-1252.
+std::string Call_Text(const Picture& picture, const Drawing_Call& call);
+
+/// "R,G,B".
+std::string Colour_Text(Colour colour);
+
+/// Measures of a picture in its pixels.
+struct Svg_Measures {
+    int width = 0;
+    int height = 0;
+    int text_height = 0;
+};
+
+/// The picture as an SVG file.
+std::string Svg_Text(const Picture& picture, const Svg_Measures& measures);
+
 /// Forgets the calls, but neither the state nor the memory, which serves the next ones.
 void Wipe(Device_Context& device);
 

@@ -1,35 +1,19 @@
-#include <sys/stat.h>
+#include <climits>
+#include <filesystem>
+#include <iterator>
 
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "platform/headless/commands.h"
-#include "platform/headless/folder_list.h"
-#include "platform/headless/form.h"
 #include "platform/headless/program.h"
-#include "platform/headless/targets.h"
+#include "platform/headless/protocol.h"
 #include "platform/message_box.h"
 
+// What a user does with controls, and with a window's client area and frame.
 namespace platform::headless {
 
 namespace {
 
-/// A folder whose name, or the way to it, Windows-1252 cannot hold: it stands in the list, but the
-/// program could not name it.
-bool Is_Folder_By_Native_Name(std::string_view utf8) {
-    struct stat status {};
-    return stat(std::string(utf8).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-}
-
-void Refuse_Folder(std::string_view utf8) {
-    Message_Box("The folder \"" + From_Utf8_Lossy(utf8) +
-                    "\" cannot be used, because its name holds characters that this program cannot "
-                    "write.",
-                Icon::Exclamation, Message_Title);
-}
-
-}  // namespace
-
-void Click_Command(Arguments arguments, Reply& reply) {
+void Click(Arguments arguments, Reply& reply) {
     const Target target = Control_Named(arguments[0], reply);
     if (!target) return;
     const Control& row = target.Row();
@@ -45,12 +29,12 @@ void Click_Command(Arguments arguments, Reply& reply) {
     Call(row.handler);
 }
 
-void Double_Click_Command(Arguments arguments, Reply& reply) {
+void Double_Click(Arguments arguments, Reply& reply) {
     const Target list = Control_Named(arguments[0], Control_Kind::List, reply);
     if (list && Takes_Input(list, reply)) Call(list.Row().handler);
 }
 
-void Pick_Command(Arguments arguments, Reply& reply) {
+void Pick(Arguments arguments, Reply& reply) {
     const Target target = Control_Named(arguments[0], reply);
     if (!target) return;
     const Control_Kind kind = target.Row().kind;
@@ -61,33 +45,126 @@ void Pick_Command(Arguments arguments, Reply& reply) {
     if (index && Takes_Input(target, reply)) Select_Entry(target.Ref(), static_cast<int>(*index));
 }
 
-void Type_Command(Arguments arguments, Reply& reply) {
+void Type(Arguments arguments, Reply& reply) {
     const Target combo = Control_Named(arguments[0], Control_Kind::Combo, reply);
     if (!combo) return;
     const auto text = Program_Text(arguments[1], reply);
     if (text && Takes_Input(combo, reply)) Set_Text(combo.Ref(), *text);
 }
 
-void Folder_Command(Arguments arguments, Reply& reply) {
+/// By its native name, since the program has none for a folder that Windows-1252 cannot write.
+bool Is_Folder(std::string_view utf8) {
+    std::error_code ignored;
+    return std::filesystem::is_directory(std::u8string(utf8.begin(), utf8.end()), ignored);
+}
+
+void Move_To_Folder(Arguments arguments, Reply& reply) {
     const Target list = Control_Named(arguments[0], Control_Kind::Folder, reply);
     if (!list) return;
     const auto path = From_Utf8(arguments[1]);
-    const bool exists =
-        path ? !path->empty() && Folder_Exists(*path) : Is_Folder_By_Native_Name(arguments[1]);
+    const bool exists = path ? !path->empty() && Folder_Exists(*path) : Is_Folder(arguments[1]);
     if (!exists) return Fail(reply, "no such folder");
     if (!Takes_Input(list, reply)) return;
     const std::string whole = path ? Whole_Path(*path) : std::string();
-    if (whole.empty()) return Refuse_Folder(arguments[1]);
-    Move_Folder_List(list.Ref(), whole);
+    if (!whole.empty()) return Move_Folder_List(list.Ref(), whole);
+    Message_Box("The folder \"" + From_Utf8_Lossy(arguments[1]) +
+                    "\" cannot be used, because its name holds characters that this program cannot "
+                    "write.",
+                Icon::Exclamation, Message_Title);
 }
 
-void Drive_Command(Arguments arguments, Reply& reply) {
+void Choose_Drive(Arguments arguments, Reply& reply) {
     const Target list = Control_Named(arguments[0], Control_Kind::Drive, reply);
     if (!list) return;
     const auto index = Whole_Number(arguments[1], 0, Entry_Count(list.Ref()) - 1, reply);
     if (!index || !Takes_Input(list, reply)) return;
     Select_Entry(list.Ref(), static_cast<int>(*index));
     Call(list.Row().handler);
+}
+
+std::optional<Mouse_Button> Button_Named(std::string_view name) {
+    if (name == "left") return Mouse_Button::Left;
+    if (name == "middle") return Mouse_Button::Middle;
+    if (name == "right") return Mouse_Button::Right;
+    return std::nullopt;
+}
+
+/// Where a pixel lies between two bounds of the user coordinates.
+float Between(double start, double end, long long pixel, int pixels) {
+    return static_cast<float>(start + static_cast<double>(pixel) * (end - start) / pixels);
+}
+
+void Press(Arguments arguments, Reply& reply) {
+    const Form* form = Form_Named(arguments[0], reply);
+    if (form == nullptr) return;
+    const auto button = Button_Named(arguments[1]);
+    if (!button) return Fail(reply, "no such button");
+    const auto x = Whole_Number(arguments[2], 0, form->client_width - 1, reply);
+    const auto y = Whole_Number(arguments[3], 0, form->client_height - 1, reply);
+    if (!x || !y || !Takes_Input(*form, reply)) return;
+    if (Is_Covered(*form, static_cast<int>(*x), static_cast<int>(*y))) return;
+    const auto [left, top, right, bottom] = form->user_bounds;
+    const Mouse_Handler press = form->window->mouse_down;
+    if (press == nullptr) return;
+    press(*button, Between(left, right, *x, form->client_width),
+          Between(top, bottom, *y, form->client_height));
+}
+
+void Resize(Arguments arguments, Reply& reply) {
+    Form* form = Form_Named(arguments[0], reply);
+    if (form == nullptr) return;
+    if (form->window->frame != Frame_Style::Sizable || form->minimised) {
+        return Fail(reply, "this window cannot be resized");
+    }
+    const auto width = Whole_Number(arguments[1], Frame_Width(*form->window), INT_MAX, reply);
+    const auto height = Whole_Number(arguments[2], Frame_Height(*form->window), INT_MAX, reply);
+    if (!width || !height || !Takes_Input(*form, reply)) return;
+    Resize_Form(*form, static_cast<int>(*width), static_cast<int>(*height));
+}
+
+void Minimise_Window(Arguments arguments, Reply& reply) {
+    Form* form = Form_Named(arguments[0], reply);
+    if (form == nullptr) return;
+    const Frame_Style frame = form->window->frame;
+    if (frame != Frame_Style::Fixed && frame != Frame_Style::Sizable) {
+        return Fail(reply, "this window cannot be minimised");
+    }
+    if (Takes_Input(*form, reply)) Set_Minimised(*form, true);
+}
+
+void Restore(Arguments arguments, Reply& reply) {
+    Form* form = Form_Named(arguments[0], reply);
+    if (form != nullptr && Takes_Input(*form, reply)) Set_Minimised(*form, false);
+}
+
+void Close(Arguments arguments, Reply& reply) {
+    const Form* form = Form_Named(arguments[0], reply);
+    if (form != nullptr && Takes_Input(*form, reply)) Unload(*form->window);
+}
+
+void Untop(Arguments arguments, Reply& reply) {
+    if (Form* form = Form_Named(arguments[0], reply)) form->topmost = false;
+}
+
+constexpr Command commands[] = {
+    {"click", 1, Click},
+    {"double_click", 1, Double_Click},
+    {"pick", 2, Pick},
+    {"type", 2, Type},
+    {"folder", 2, Move_To_Folder},
+    {"drive", 2, Choose_Drive},
+    {"mouse", 4, Press},
+    {"resize", 3, Resize},
+    {"minimise", 1, Minimise_Window},
+    {"restore", 1, Restore},
+    {"close", 1, Close},
+    {"untop", 1, Untop},
+};
+
+}  // namespace
+
+std::span<const Command> Doing_Commands() {
+    return commands;
 }
 
 }  // namespace platform::headless

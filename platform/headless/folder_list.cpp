@@ -1,5 +1,3 @@
-#include "platform/headless/folder_list.h"
-
 #include "platform/controls.h"
 #include "platform/files.h"
 #include "platform/headless/form.h"

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/controls.h"
@@ -52,7 +53,6 @@ struct Form {
     int client_height = 0;
     std::array<double, 4> user_bounds{};  ///< left, top, right, bottom
     std::vector<Control_State> controls;  ///< in the order of the window's table
-    std::vector<std::size_t> timers;      ///< rows of the table
     Device_Context device;
 };
 
@@ -65,9 +65,6 @@ Form* Find_Form(const Window& window);
 /// Null if the window is not loaded or the control is not of that kind.
 Control_State* Find_State(Control_Ref control);
 Control_State* Find_State(Control_Ref control, Control_Kind kind);
-
-/// A form as its table describes it.
-std::unique_ptr<Form> Make_Form(const Window& window);
 
 /// Pixels that the frame and the menu bar add to the client area.
 int Frame_Width(const Window& window);
@@ -87,13 +84,20 @@ void Set_Option(Control_Ref control, bool selected);
 /// Selects an entry of a combo, list or drive list, -1 for none; calls no handler.
 void Select_Entry(Control_Ref control, int index);
 
-/// All entries of a combo, list, drive or folder list.
+/// All entries of a combo, list, drive or folder list, whose entries are its subfolders.
 std::vector<std::string> Entries_Of(Control_Ref control);
 
 /// Whether a control without a frame covers that pixel of the client area.
 bool Is_Covered(const Form& form, int x, int y);
 
-/// Twips to whole pixels, halves to even.
-int Whole_Pixels(int twips);
+/// The folder by its whole path, whether it exists or not: from the working folder if the path
+/// starts neither at a root nor with a drive; "." and ".." resolved; no separator at its end but a
+/// root's. Empty if the working folder's own name cannot be told. Windows-1252.
+std::string Whole_Path(std::string_view path);
+
+/// Points the list at a folder and calls its handler.
+void Move_Folder_List(Control_Ref control, const std::string& whole_path);
+
+std::vector<std::string> Subfolders(std::string_view path);
 
 }  // namespace platform::headless

@@ -7,8 +7,8 @@
 #include <optional>
 #include <utility>
 
-#include "platform/headless/commands.h"
-#include "platform/headless/targets.h"
+#include "platform/headless/program.h"
+#include "platform/headless/protocol.h"
 
 namespace platform {
 
@@ -126,27 +126,30 @@ std::optional<Condition> Condition_Named(std::string_view name) {
     return std::nullopt;
 }
 
-}  // namespace
-
-void Printer_Command(Arguments arguments, Reply& reply) {
-    std::string_view rest = arguments[0];
-    if (const auto condition = Condition_Named(rest)) {
+void Set_Printer(Arguments arguments, Reply& reply) {
+    if (const auto condition = Condition_Named(arguments[0])) {
         printer.condition = *condition;
         return;
     }
-    std::array<int, 4> measures{};
-    for (int& measure : measures) {
-        const std::string_view word = rest.substr(0, rest.find(' '));
+    std::vector<int> measures;
+    for (const std::string_view word : Words_Of(arguments[0])) {
         const auto number = Whole_Number(word, 1, INT_MAX, reply);
         if (!number) return;
-        measure = static_cast<int>(*number);
-        rest.remove_prefix(std::min(word.size() + 1, rest.size()));
+        measures.push_back(static_cast<int>(*number));
     }
-    if (!rest.empty()) return Fail(reply, "wrong number of arguments");
+    if (measures.size() != 4) return Fail(reply, "wrong number of arguments");
     printer.width = measures[0];
     printer.height = measures[1];
     printer.print_width = measures[2];
     printer.print_height = measures[3];
+}
+
+constexpr Command commands[] = {{"printer", 1, Set_Printer}};
+
+}  // namespace
+
+std::span<const Command> Printer_Commands() {
+    return commands;
 }
 
 }  // namespace headless

@@ -17,7 +17,4 @@ struct Page {
 /// Pages of the documents that ended well, oldest first.
 const std::vector<Page>& Printed_Pages();
 
-/// A usual printer with an empty tray.
-void Reset_Printer();
-
 }  // namespace platform::headless

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "platform/code_page.h"
-#include "platform/headless/picture_text.h"
+#include "platform/headless/device.h"
 
 namespace platform::headless {
 

@@ -5,7 +5,6 @@
 #include "chart/current_chart.h"
 #include "chart/draw_chart.h"
 #include "platform/headless/device.h"
-#include "platform/headless/picture_text.h"
 #include "scenery/magnetic.h"
 #include "selection/airspace_search.h"
 

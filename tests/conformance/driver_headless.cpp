@@ -2,10 +2,8 @@
 
 #include "platform/code_page.h"
 #include "platform/headless/form.h"
-#include "platform/headless/message_box.h"
 #include "platform/headless/program.h"
 #include "platform/headless/protocol.h"
-#include "platform/headless/timers.h"
 #include "tests/conformance/driver.h"
 
 namespace driver {

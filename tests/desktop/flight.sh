@@ -7,7 +7,7 @@ set_up
 # So far that it does not land before the test ends, on a slow machine either.
 begin skerrand-simulator --departure KSEA --destination EGLL --speed-up 10
 simulator=$program
-wait_for "the simulator does not stand" test -S "$XDG_RUNTIME_DIR/skerrand/UIPCMAIN"
+wait_for "the simulator does not stand" grep -q "skerrand/UIPCMAIN$XDG_RUNTIME_DIR" /proc/net/unix
 begin skerrand
 choose
 

@@ -1,12 +1,13 @@
 #include "platform/headless/protocol.h"
 
 #include <gtest/gtest.h>
+#include <set>
 #include <sstream>
 
 #include "platform/controls.h"
 #include "platform/drawing.h"
-#include "platform/headless/folder_list.h"
 #include "platform/headless/program.h"
+#include "platform/link.h"
 #include "platform/message_box.h"
 #include "platform/program.h"
 #include "tests/platform/scratch_folder.h"
@@ -31,18 +32,14 @@ constexpr Control controls[] = {
     {.name = "Timer1", .kind = Timer, .interval = 1000},
 };
 
+constexpr Window Box = {"Form7", "", 1500, 1500, {}, Frame_Style::Dialog};
 constexpr Window Sample = {"Form9", "\x80 ok", 3008, 3007, controls, Frame_Style::Sizable};
 
 void Click() {
     Message_Box("a\tb\r\nc\\d", Icon::Information, "\xE9");
 }
 
-struct Exchange {
-    const char* command;
-    const char* answer;
-};
-
-void Expect(std::initializer_list<Exchange> exchanges) {
+void Expect(std::initializer_list<std::pair<const char*, const char*>> exchanges) {
     for (const auto& [command, answer] : exchanges)
         EXPECT_EQ(Execute(command), answer) << command;
 }
@@ -56,7 +53,7 @@ class Protocol : public testing::Test {
     }
 };
 
-TEST_F(Protocol, Texts_Are_Escaped_So_That_No_Answer_Can_Be_Mistaken) {
+TEST_F(Protocol, A_Text_Is_Mistaken_For_The_End_Of_The_Answer) {
     Expect({{"get Form9.caption", "\u20AC ok\nok\n"},
             {"get Form9.Frame1.caption", "\\ok\nok\n"},
             {"get Form9.Label1.caption", "\\error here\nok\n"},
@@ -67,7 +64,7 @@ TEST_F(Protocol, Texts_Are_Escaped_So_That_No_Answer_Can_Be_Mistaken) {
             {"messages", "ok\n"}});
 }
 
-TEST_F(Protocol, A_Bad_Command_Is_An_Error_And_Changes_Nothing) {
+TEST_F(Protocol, A_Bad_Command_Is_No_Error_Or_Changes_Something) {
     std::istringstream commands(
         "|nonsense|clock |advance|advance +1|advance 1 |advance 99999999999999999999|"
         "get Form9|get Form9.nothing|get Form8.caption|get Form9.Button1.text|"
@@ -76,11 +73,12 @@ TEST_F(Protocol, A_Bad_Command_Is_An_Error_And_Changes_Nothing) {
         "pick Form9.Combo1|pick Form9.Drive1 -1|type Form9.Combo1|type Form9.Combo1 \u0416|"
         "drive Form9.Drive1 0|folder Form9.Drive1 /|mouse Form9 left 201 0|"
         "mouse Form9 left -1 0|mouse Form9 both 1 1|resize Form9 7 100|svg Form8 x.svg|"
-        "svg Form9 /no/such/folder/x.svg|simulator on twice|simulator set 0x10000 00|"
-        "simulator set 0xFFFF 0000|simulator set 0 0|simulator set 0 0g|simulator set -1 00|"
-        "simulator set 0  00|simulator get 0 65537|simulator get 0|simulator reply x|"
-        "simulator reply 1 after -1|simulator reply 1 then 2|simulator reply 4294967296|"
-        "simulator fly");
+        "svg Form9 /no/such/folder/x.svg|printer 1 2 3|printer 1 2 3 0|printer 1 2 3 4 5|"
+        "printer gone|page 1|svg page 1 x|key 256 up|key 5 sideways|simulator on twice|"
+        "simulator set 0x10000 00|simulator set 0xFFFF 0000|simulator set 0 0|"
+        "simulator set 0 0g|simulator set -1 00|simulator set 0  00|simulator get 0 65537|"
+        "simulator get 0|simulator reply x|simulator reply 1 after -1|simulator reply 1 then 2|"
+        "simulator reply 4294967296|simulator fly");
     for (std::string command; std::getline(commands, command, '|');)
         EXPECT_TRUE(Execute(command).starts_with("error ")) << command;
     Expect({{"clock", "0\nok\n"},
@@ -92,66 +90,78 @@ TEST_F(Protocol, A_Bad_Command_Is_An_Error_And_Changes_Nothing) {
             {"messages", "ok\n"}});
 }
 
-TEST_F(Protocol, Measures_And_Looks_Are_Those_Of_The_Table_In_The_Fixed_Measures) {
-    Expect({{"forms", "Form9\nok\n"},
-            {"get Form9.client_width", "201\nok\n"},   // 200.53 pixels
-            {"get Form9.client_height", "200\nok\n"},  // 200.47
-            {"get Form9.height", "246\nok\n"},
-            {"get Form9.left", "64\nok\n"},
-            {"get Form9.Label1.font_size", "18\nok\n"},
-            {"get Form9.Label1.bold", "yes\nok\n"},
-            {"get Form9.Button1.font_size", "8.25\nok\n"},
-            {"get Form9.Label1.colour", "0,0,0\nok\n"},
-            {"get Form9.Button1.font", "MS Sans Serif\nok\n"},
-            {"get Form9.Timer1.enabled", "yes\nok\n"}});
+TEST_F(Protocol, A_Verb_Is_Undocumented_Or_A_Documented_One_Unknown) {
+    std::ifstream document(SKERRAND_DOCS "/headless.md");
+    std::set<std::string> described;
+    bool in_table = false;
+    for (std::string line; std::getline(document, line);) {
+        in_table = line.starts_with("| Command |") || (in_table && line.starts_with('|'));
+        const std::string cell = in_table ? line.substr(0, line.find(" | ")) : "";
+        for (std::size_t start = cell.find('`'); start < cell.size();) {
+            const std::size_t end = cell.find('`', start + 1);
+            const std::string command = cell.substr(start + 1, end - start - 1);
+            described.insert(command.substr(0, command.find(' ')));
+            start = cell.find('`', end + 1);
+        }
+    }
+    const auto verbs = headless::Verbs();
+    EXPECT_EQ(described, std::set<std::string>(verbs.begin(), verbs.end()));
 }
 
-TEST_F(Protocol, What_Is_Disabled_Takes_No_Input_And_A_Minimised_Window_Does) {
+TEST_F(Protocol, Measures_And_Looks_Are_Not_Those_Of_The_Table) {
+    std::istringstream values(
+        "client_width 201 client_height 200 height 246 left 64 Label1.font_size 18 "
+        "Label1.bold yes Button1.font_size 8.25 Label1.colour 0,0,0 Timer1.enabled yes");
+    for (std::string property, value; values >> property >> value;)
+        EXPECT_EQ(Execute("get Form9." + property), value + "\nok\n") << property;
+}
+
+TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
     Set_Enabled(Find_Control(Sample, "Frame1"), false);
     Set_Enabled(Find_Control(Sample, "Combo1"), false);
+    Show(Box);
     Expect({{"click Form9.Check1", "error disabled\n"},
             {"pick Form9.Combo1 1", "error disabled\n"},
             {"type Form9.Combo1 x", "error disabled\n"},
+            {"minimise Form7", "error this window cannot be minimised\n"},
+            {"resize Form7 99 99", "error this window cannot be resized\n"},
             {"minimise Form9", "ok\n"},
             {"resize Form9 300 300", "error this window cannot be resized\n"},
-            {"click Form9.Button1", "ok\n"},
-            {"restore Form9", "ok\n"}});
+            {"click Form9.Button1", "ok\n"}});
     Set_Enabled(Sample, false);
-    Expect({{"click Form9.Button1", "error disabled\n"}, {"close Form9", "error disabled\n"}});
-}
-
-TEST_F(Protocol, Typing_Takes_The_Rest_Of_The_Line_And_Clearing_Keeps_What_Was_Typed) {
+    Expect({{"click Form9.Button1", "error disabled\n"},
+            {"restore Form9", "error disabled\n"},
+            {"close Form9", "error disabled\n"}});
+    Set_Enabled(Find_Control(Sample, "Combo1"), true);
+    Set_Enabled(Sample, true);
+    SetWindowPos(Sample, Insert_After::HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     Expect({{"type Form9.Combo1  a  \u00E9 ", "ok\n"},
             {"get Form9.Combo1.text", " a  \u00E9 \nok\n"},
-            {"pick Form9.Combo1 -1", "ok\n"},
-            {"get Form9.Combo1.text", " a  \u00E9 \nok\n"},
-            {"pick Form9.Combo1 2", "ok\n"},
-            {"pick Form9.Combo1 -1", "ok\n"},
-            {"get Form9.Combo1.text", "\nok\n"}});
+            {"get Form9.topmost", "yes\nok\n"},
+            {"untop Form9", "ok\n"},
+            {"get Form9.topmost", "no\nok\n"}});
 }
 
-TEST_F(Protocol, Drives_Stand_In_Windows_Loaded_Later) {
+TEST_F(Protocol, Drives_Stand_In_Windows_Already_Loaded) {
     Expect({{"drives c: [SYSTEM]|d:", "ok\n"}, {"items Form9.Drive1", "ok\n"}});
     Unload(Sample);
     Show(Sample);
     Expect({{"items Form9.Drive1", "c: [SYSTEM]\nd:\nok\n"},
-            {"get Form9.Drive1.index", "-1\nok\n"},
             {"drive Form9.Drive1 1", "ok\n"},
             {"get Form9.Drive1.drive", "d:\nok\n"}});
 }
 
-TEST_F(Protocol, After_The_End_Only_The_Looks_Back_Answer) {
+TEST_F(Protocol, After_The_End_More_Than_The_Looks_Back_Answers) {
     Expect({{"click Form9.Quit1", "ok\n"},
             {"running", "no\nok\n"},
             {"messages", "ok\n"},
             {"pages", "0\nok\n"},
             {"clock", "error the program has ended\n"},
-            {"forms", "error the program has ended\n"}});
-    EXPECT_EQ(Execute("quit"), "ok\n");
+            {"quit", "ok\n"}});
     EXPECT_TRUE(headless::Was_Quit());
 }
 
-TEST_F(Protocol, Each_Call_Is_Held_As_It_Was_And_As_An_Element_That_Means_The_Same) {
+TEST_F(Protocol, A_Call_Is_Changed_Or_Drawn_As_Another_Shape) {
     const Scratch_Folder scratch;
     Device_Context* device = Window_Device(Sample);
     Set_Pen_Style(device, Pen_Style::Dashed);
@@ -185,25 +195,61 @@ TEST_F(Protocol, Each_Call_Is_Held_As_It_Was_And_As_An_Element_That_Means_The_Sa
     EXPECT_EQ(std::count(svg.begin(), svg.end(), '\n'), 12);
 }
 
-TEST(Folder_List, Its_Path_Is_Whole_And_Ends_Without_A_Separator_But_A_Roots) {
+TEST(Folder_List, Path_Is_Not_Whole_Or_Ends_With_A_Separator) {
     const Scratch_Folder scratch;
-    const std::string here = std::filesystem::current_path().string();
+    const std::filesystem::path here = std::filesystem::current_path();
     const std::pair<std::string, std::string> cases[] = {
-        {"", here},
-        {"sub\\in/", here + "/sub\\in"},
-        {"..", std::filesystem::current_path().parent_path().string()},
-        {"/home/me/fs2002//", "/home/me/fs2002"},
-        {"/home/./me/x/../fs2002\\scenery", "/home/me/fs2002\\scenery"},
-        {"/", "/"},
+        {"", here.string()},
+        {"sub\\in/", here.string() + "/sub\\in"},
+        {"..", here.parent_path().string()},
+        {"/home/./me/x/../fs2002\\scenery//", "/home/me/fs2002\\scenery"},
         {"/../..", "/"},
         {"\\games", "\\games"},
         {"d:", "d:\\"},
         {"d:/", "d:/"},
         {"D:\\games\\..\\fs2002\\", "D:\\fs2002"},
-        {"d:\\..", "d:\\"},
     };
     for (const auto& [given, whole] : cases)
         EXPECT_EQ(headless::Whole_Path(given), whole) << given;
+}
+
+std::string ticks;
+std::int64_t wait_at = -1;
+
+void Note(char name) {
+    ticks += name + std::to_string(headless::Clock()) + " ";
+    if (headless::Clock() == wait_at) Sleep(75);
+}
+
+constexpr Control first_controls[] = {
+    {.name = "A", .kind = Timer, .handler = [] { Note('a'); }, .interval = 30},
+    {.name = "B", .kind = Timer, .handler = [] { Note('b'); }, .interval = 20}};
+constexpr Control second_controls[] = {
+    {.name = "C", .kind = Timer, .handler = [] { Note('c'); }, .interval = 20}};
+constexpr Window First = {"First", "", 1500, 1500, first_controls};
+constexpr Window Second = {"Second", "", 1500, 1500, second_controls};
+
+std::string Ticks(std::int64_t milliseconds) {
+    ticks.clear();
+    headless::Advance(milliseconds);
+    return ticks + "at " + std::to_string(headless::Clock());
+}
+
+TEST(Timers, Ticks_Come_Out_Of_Order) {
+    headless::Begin([] {
+        Show(Second);
+        Show(First);
+    });
+    EXPECT_EQ(Ticks(60), "c20 b20 a30 c40 b40 c60 a60 b60 at 60");
+}
+
+TEST(Timers, A_Wait_Of_The_Program_Lets_A_Timer_Tick_Twice_Or_Shortens_An_Advance) {
+    wait_at = 30;
+    headless::Begin([] { Show(First); });
+    EXPECT_EQ(Ticks(60), "b20 a30 at 105");
+    EXPECT_EQ(Ticks(20), "b105 a105 b125 at 125");
+    Ticks(100);
+    EXPECT_EQ(headless::Clock(), 225);
 }
 
 }  // namespace

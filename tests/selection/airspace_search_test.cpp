@@ -5,7 +5,7 @@
 #include "app/settings.h"
 #include "chart/current_chart.h"
 #include "platform/controls.h"
-#include "platform/headless/message_box.h"
+#include "platform/headless/program.h"
 #include "scenery/tables.h"
 #include "selection/form3.h"
 #include "selection/picks.h"

@@ -6,7 +6,8 @@
 #include "chart/form4.h"
 #include "platform/headless/program.h"
 #include "platform/headless/protocol.h"
-#include "platform/headless/simulator.h"
+#include "platform/simulator/simulator.h"
+#include "simlink/fsuipc.h"
 
 namespace skerrand {
 namespace {
@@ -15,7 +16,7 @@ using platform::headless::Execute;
 
 TEST(Poll, RawValuesAreConvertedWrongly) {
     platform::headless::Begin([] {
-        platform::headless::Start_Simulator("UIPCMAIN");
+        platform::simulator::Start("UIPCMAIN");
         platform::Show(form4::window);
     });
     const struct {
@@ -40,6 +41,29 @@ TEST(Poll, RawValuesAreConvertedWrongly) {
         EXPECT_EQ(aircraft_heading, c.heading) << c.set;
     }
     platform::Unload(form4::window);
+}
+
+TEST(Simulator, StateAreaIsReadOrWrittenOutsideOrOutOfPlace) {
+    platform::simulator::Start("UIPCMAIN");
+    auto& area = platform::simulator::stand_in.state_area;
+    std::int32_t result = 99;
+    ASSERT_TRUE(Open_Link(6, result));
+    area[0xFFFF] = 7;
+    const std::uint32_t zeros = 0;
+    std::uint32_t at_end = 9, outside = 9, far = 9, version = 0;
+    Queue_Read(0xFFFF, 4, &at_end, result);
+    Queue_Read(0x10000, 4, &outside, result);
+    Queue_Read(0xFFFFFFFF, 4, &far, result);
+    Queue_Write(0x3308 + 1, 4, &zeros, result);
+    Queue_Write(0xFFFF, 4, &zeros, result);
+    Queue_Write(0xFFFFFFFF, 4, &zeros, result);
+    Queue_Read(0x3308, 4, &version, result);
+    EXPECT_TRUE(Process_Queue(result));
+    EXPECT_EQ(at_end, 7U);
+    EXPECT_EQ(outside + far, 0U);
+    EXPECT_EQ(version, 0xFADE0006);
+    EXPECT_EQ(area[0xFFFF], 0);
+    Close_Link();
 }
 
 }  // namespace

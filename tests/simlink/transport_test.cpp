@@ -1,263 +1,202 @@
-// The real client and the stand-in simulator's server, over their sockets and shared memory.
+// The real client and the stand-in simulator's server, each a process of its own, as in life.
 
+#include <csignal>
 #include <cstdlib>
-#include <cstring>
-#include <fcntl.h>
 #include <filesystem>
-#include <future>
 #include <gtest/gtest.h>
-#include <sys/eventfd.h>
-#include <sys/mman.h>
-#include <sys/socket.h>
+#include <poll.h>
 #include <sys/wait.h>
-#include <thread>
 
-#include "platform/headless/simulator.h"
 #include "platform/link.h"
 #include "platform/posix/link_endpoint.h"
+#include "platform/simulator/server.h"
+#include "platform/simulator/simulator.h"
 #include "simlink/fsuipc.h"
 #include "tests/platform/scratch_folder.h"
-#include "tools/simulator/instruments.h"
-#include "tools/simulator/server.h"
 
 namespace {
 
-using platform::posix::Descriptor;
-using simulator::Answer;
+using namespace platform;
 
 constexpr const char* Class = "UIPCMAIN";
 constexpr std::uint32_t Long_Enough = 20000;  // ms, for what happens in far less
+constexpr std::uint32_t Timed_Out = 1000, Gone = 1000 + Error_Invalid_Window;
 
-const std::string Block_Name = "FSASMLIB:IPC:" + std::to_string(getpid()) + ":test";
-
-platform::Mapping_Handle Make_Block(const std::string& name = Block_Name,
-                                    std::uint32_t size = 0x8000) {
-    return platform::CreateFileMappingA(size, name.c_str());
+/// Does `work` in a child that ends as in a crash.
+template <typename Work>
+pid_t In_Child(Work work) {
+    const pid_t child = fork();
+    if (child == 0) _exit(work() ? 0 : 1);
+    return child;
 }
 
-/// A server in a thread of its own.
-class Running_Server {
-  public:
-    explicit Running_Server(const Answer& answer)
-        : server_(simulator::Open_Server(Class, fault_)), thread_([this, answer] {
-              const int ends[] = {stop_.Get()};
-              if (server_ != nullptr) simulator::Serve(*server_, ends, answer);
-          }) {}
-    ~Running_Server() {
-        eventfd_write(stop_.Get(), 1);
-        thread_.join();
-    }
+bool Ended_Well(pid_t child) {
+    int status = 1;
+    return waitpid(child, &status, 0) == child && status == 0;
+}
 
-  private:
-    std::string fault_;
-    std::unique_ptr<simulator::Server> server_;
-    Descriptor stop_{eventfd(0, EFD_CLOEXEC)};
-    std::thread thread_;
-};
+std::ptrdiff_t Open_Files(pid_t process) {
+    return std::distance(
+        std::filesystem::directory_iterator("/proc/" + std::to_string(process) + "/fd"), {});
+}
 
 class Transport : public testing::Test {
   protected:
     void SetUp() override {
         setenv("XDG_RUNTIME_DIR", scratch.Path().c_str(), 1);
-        simulator::Start(Class, 0xFADE0006);
         skerrand::Clear_Link();
+        block = CreateFileMappingA(0x8000, "block");
     }
-    void TearDown() override { skerrand::Close_Link(); }
-
-    /// A message about the block of that name.
-    static std::uint32_t Reply(const std::string& block_name = Block_Name,
-                               const char* message = "FSASMLIB:IPC",
-                               std::uint32_t time_out = Long_Enough) {
+    void TearDown() override {
+        CloseHandle(block);
+        End_Server();
+    }
+    void Start_Server(const simulator::Answer& answer) {
+        ASSERT_EQ(simulator::Open_Window(Class), "");
+        server = In_Child([&, parent = getpid()] {
+            if (simulator::Follow(parent)) simulator::Serve(answer);
+            return true;
+        });
+        simulator::Close_Window();
+        ASSERT_NE(FindWindowExA(Class), 0U);
+    }
+    void End_Server() {
+        if (server == 0) return;
+        kill(server, SIGKILL);
+        waitpid(std::exchange(server, 0), nullptr, 0);
+    }
+    /// The reply to a message about the block; 1000 and the error if there is none.
+    static std::uint32_t Reply(std::uint32_t time_out = Long_Enough) {
         std::uint32_t reply = 99;
-        const platform::Atom atom = platform::GlobalAddAtomA(block_name.c_str());
-        const bool sent = platform::SendMessageTimeoutA(
-            platform::FindWindowExA(Class), platform::RegisterWindowMessageA(message),
-            static_cast<std::int16_t>(atom), time_out, reply);
-        platform::GlobalDeleteAtom(atom);
-        return sent ? reply : 1000 + platform::GetLastError();
+        const bool sent = SendMessageTimeoutA(1, 0, 0, time_out, reply);
+        return sent ? reply : 1000 + GetLastError();
     }
 
     Scratch_Folder scratch;
     std::int32_t result = 99;
+    Mapping_Handle block = 0;
+    pid_t server = 0;
 };
 
-constexpr std::uint32_t Timed_Out = 1000;
-constexpr std::uint32_t Gone = 1000 + platform::Error_Invalid_Window;
-
-const sockaddr* Generic(const sockaddr_un& address) {
-    return static_cast<const sockaddr*>(static_cast<const void*>(&address));
-}
-
-/// Runs `work` in a child and waits for its end; true if all went well there.
-bool In_Child(const std::function<bool()>& work) {
-    const pid_t child = fork();
-    if (child == 0) _exit(work() ? 0 : 1);  // as in a crash: nothing is put in order
-    int status = 1;
-    return waitpid(child, &status, 0) == child && status == 0;
-}
-
-TEST_F(Transport, Link_Closed_And_Opened_Again_Shows_An_Old_Block) {
-    const Running_Server server(platform::headless::Answer_Batch);
-    for (const double lat : {-33.5, 90.0}) {
-        simulator::Show({.lat = lat, .lon = 180, .heading = 270});
-        ASSERT_TRUE(skerrand::Open_Link(6, result)) << result;
-        std::int32_t raw_lat = 0, raw_lon = 0, raw_heading = 0;
-        const std::array<std::uint8_t, 2> data{3, 4};
-        ASSERT_TRUE(skerrand::Queue_Read(0x0564, 4, &raw_lat, result) &&
-                    skerrand::Queue_Read(0x056C, 4, &raw_lon, result) &&
-                    skerrand::Queue_Read(0x0580, 4, &raw_heading, result) &&
-                    skerrand::Queue_Write(0x8000, 2, data.data(), result) &&
-                    skerrand::Process_Queue(result))
-            << result;
-        EXPECT_NEAR(raw_lat * 90.0 / 10001750, lat, 1e-5);
-        EXPECT_EQ(raw_lon, INT32_MIN);
-        EXPECT_EQ(raw_heading, -0x40000000);
-        EXPECT_EQ(platform::headless::State_Area()[0x8001], 4);
-        skerrand::Close_Link();
-        std::array<char, 32> name;
-        std::snprintf(name.data(), name.size(), "/FSASMLIB:IPC:%X:1",
-                      platform::GetCurrentProcessId());
-        EXPECT_LT(Descriptor(shm_open(name.data(), O_RDONLY, 0)).Get(), 0) << "left behind";
+TEST_F(Transport, Killed_Client_Leaves_Something_Behind) {
+    simulator::Start(Class);
+    Start_Server(simulator::Answer_Batch);
+    CloseHandle(block);
+    EXPECT_EQ(Reply(), 0U);
+    const std::ptrdiff_t files = Open_Files(server);
+    for (const int signal : {SIGKILL, SIGCONT}) {
+        const pid_t client =
+            In_Child([&] { return skerrand::Open_Link(6, result) && raise(signal) == 0; });
+        EXPECT_EQ(Ended_Well(client), signal == SIGCONT) << result;
+        std::array<char, 64> name;
+        std::snprintf(name.data(), name.size(), "/dev/shm/FSASMLIB:IPC:%X:1", unsigned(client));
+        EXPECT_FALSE(std::filesystem::exists(name.data()));
     }
-    EXPECT_EQ(platform::FindWindowExA("FS98MAIN"), 0U);
+    EXPECT_EQ(Reply() + Reply(), 0U);  // by the second one the server has seen the ends
+    EXPECT_EQ(Open_Files(server), files);
+    EXPECT_TRUE(std::filesystem::is_empty(scratch.Path()));
 }
 
-TEST_F(Transport, Late_Reply_Is_Taken_For_The_Next_One) {
-    std::promise<void> gate;
-    std::uint32_t count = 100;
-    const auto block = Make_Block();
-    {
-        const Running_Server server([&, open = gate.get_future().share()](auto) {
-            open.wait();
-            return ++count;
-        });
-        EXPECT_EQ(Reply(Block_Name, "FSASMLIB:IPC", 30), Timed_Out);
-        EXPECT_EQ(Reply(Block_Name, "FSASMLIB:IPC", 0), Timed_Out);
-        gate.set_value();
-        EXPECT_EQ(Reply(), 103U);
-    }
-    EXPECT_EQ(Reply(), Gone) << "the server has ended";
-    EXPECT_EQ(platform::FindWindowExA(Class), 0U);
-    platform::CloseHandle(block);
-}
-
-TEST_F(Transport, Crash_Of_The_Server_Kills_The_Client_Or_Blocks_The_Next_Server) {
-    // The child crashes at the third message.
-    const int ready = eventfd(0, 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        std::string fault;
-        const auto server = simulator::Open_Server(Class, fault);
-        int left = 2;
-        eventfd_write(ready, 1);
-        simulator::Serve(*server, {}, [&](auto) { return left-- > 0 ? 1U : (_exit(0), 0U); });
-    }
-    eventfd_t value = 0;
-    ASSERT_EQ(eventfd_read(ready, &value), 0);
-    const auto block = Make_Block();
-    std::string fault;
-    EXPECT_EQ(simulator::Open_Server(Class, fault), nullptr) << "two at a time";
-    for (const std::uint32_t expected : {1U, 1U, Gone, Gone})
-        EXPECT_EQ(Reply(), expected);
-    waitpid(child, nullptr, 0);
-    close(ready);
-    {
-        const Running_Server next([](auto) { return 7; });
-        EXPECT_EQ(Reply(), 7U);
-    }
-    EXPECT_TRUE(std::filesystem::is_empty(scratch.Path() + "/skerrand")) << "a socket is left";
-    platform::CloseHandle(block);
-}
-
-TEST_F(Transport, Leftover_Block_Stands_In_The_Way_Or_One_In_Use_Does_Not) {
-    ASSERT_TRUE(In_Child([] {
-        std::uint8_t* const view = platform::MapViewOfFile(Make_Block(Block_Name, 100));
-        return view != nullptr && std::memset(view, 1, 100) != nullptr;
-    }));
-    const auto mine = Make_Block();
-    ASSERT_EQ(platform::GetLastError(), 0U);
-    std::uint8_t* const view = platform::MapViewOfFile(mine);
+TEST_F(Transport, Shrunk_Block_Kills_The_Client) {
+    std::uint8_t* const view = MapViewOfFile(block);
     ASSERT_NE(view, nullptr);
-    EXPECT_EQ(std::count(view, view + 0x8000, 0), 0x8000);
-    const auto is_taken = [] {
-        const auto again = Make_Block();
-        const bool taken = platform::GetLastError() == platform::Error_Already_Exists;
-        platform::CloseHandle(again);
-        return taken;
-    };
-    EXPECT_TRUE(In_Child(is_taken));
-    EXPECT_TRUE(is_taken());
+    EXPECT_EQ(CreateFileMappingA(0x8000, "block"), 0U);
+    EXPECT_EQ(GetLastError(), Error_Already_Exists);
+    int blocks = 0;
+    for (const auto& file : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code gone;  // the one that reads this folder
+        if (!read_symlink(file, gone).string().starts_with("/memfd:")) continue;
+        ++blocks;
+        for (const off_t size : {0, 0x9000})
+            EXPECT_NE(truncate(file.path().c_str(), size), 0);
+    }
+    EXPECT_EQ(blocks, 1);
     view[0x7FFF] = 5;
-    platform::CloseHandle(mine);
-    EXPECT_EQ(view[0x7FFF]--, 5) << "the view outlives its handle";
-    platform::UnmapViewOfFile(view);
-    EXPECT_FALSE(is_taken());
+    UnmapViewOfFile(view);
 }
 
-TEST_F(Transport, Another_User_Stands_Between) {
-    std::string fault;
-    const std::string folder = platform::posix::Link_Folder(fault);
-    {
-        const Running_Server server([](auto) { return 1; });
-        std::filesystem::permissions(folder, std::filesystem::perms(0750));
-        EXPECT_EQ(platform::FindWindowExA(Class), 0U) << "others may enter the folder";
-        std::filesystem::permissions(folder, std::filesystem::perms(0700));
-        EXPECT_NE(platform::FindWindowExA(Class), 0U);
+TEST_F(Transport, Server_Outlives_The_Process_That_It_Follows) {
+    const pid_t followed = In_Child([] { return pause() == 0; });
+    const pid_t follower = In_Child([&] {
+        alarm(20);
+        const bool follows = simulator::Follow(followed) && simulator::Wait(10);
+        kill(followed, SIGKILL);
+        simulator::Serve([](auto) { return 1; });
+        return follows && !simulator::Wait(Long_Enough);
+    });
+    EXPECT_TRUE(Ended_Well(follower));
+    EXPECT_FALSE(Ended_Well(followed));
+    EXPECT_FALSE(simulator::Follow(followed));
+}
+
+TEST_F(Transport, Lying_Server_Is_Believed_Or_Holds_The_Client) {
+    const struct {
+        const char* lie;
+        void (*tell)(int client);
+        std::uint32_t expected, time_out;
+    } lies[] = {
+        {"closes", [](int) {}, Gone, Long_Enough},
+        {"hangs", [](int) { pause(); }, Timed_Out, 30},
+        {"floods",
+         [](int client) {
+             for (const posix::Link_Reply old{0, 1}; send(client, &old, sizeof old, 0) > 0;) {
+             }
+         },
+         Timed_Out, 30},
+        {"sends rubbish and a late reply ahead",
+         [](int client) {
+             std::array<posix::Link_Reply, 9> packet{};
+             recv(client, packet.data(), sizeof packet[0], 0);
+             const posix::Link_Reply late{packet[0].sequence - 1, 8};
+             send(client, &late, sizeof late, 0);
+             packet.fill({packet[0].sequence, 7});
+             for (const std::size_t size : {sizeof packet, sizeof packet[0] - 1, sizeof packet[0]})
+                 send(client, packet.data(), size, 0);
+             pause();
+         },
+         7, Long_Enough},
+    };
+    for (const auto& c : lies) {
+        const int listener = posix::Link_Socket(Class, bind);
+        ASSERT_TRUE(listen(listener, 1) == 0 && FindWindowExA(Class) != 0);
+        server = In_Child([&] {
+            c.tell(accept4(listener, nullptr, nullptr, 0));
+            return true;
+        });
+        close(listener);
+        EXPECT_EQ(Reply(c.time_out), c.expected) << c.lie;
+        End_Server();
     }
-    std::filesystem::rename(folder, folder + "2");
-    std::filesystem::create_directory_symlink(folder + "2", folder);
-    EXPECT_EQ(simulator::Open_Server(Class, fault), nullptr) << "the folder is a link";
-    std::filesystem::remove(folder);
+}
+
+TEST_F(Transport, Killed_Server_Blocks_The_Next_One) {
+    Start_Server([](auto) { return 7; });
+    EXPECT_NE(simulator::Open_Window(Class), "") << "two at a time";
+    End_Server();
+    EXPECT_EQ(FindWindowExA(Class), 0U);
+    EXPECT_EQ(Reply(), Gone);
+    Start_Server([](auto) { return 8; });
+    EXPECT_EQ(Reply(), 8U);
+}
+
+TEST_F(Transport, Hostile_Client_Ends_The_Server_Or_Stands_In_For_Another_User) {
+    Start_Server([](auto) { return 7; });
+    CloseHandle(block);
+    EXPECT_EQ(Reply(), 0U) << "no block";
+    block = CreateFileMappingA(0x7FFF, "block");
+    EXPECT_EQ(Reply(), 0U) << "a block too short";
+    const auto is_dropped = [](std::size_t size) {
+        const int client = posix::Link_Socket(Class, connect);
+        pollfd end{client, POLLIN, 0};
+        std::array<char, 8> packet{};
+        send(client, packet.data(), size, MSG_NOSIGNAL);
+        return poll(&end, 1, Long_Enough) == 1 && recv(client, packet.data(), size, 0) <= 0;
+    };
+    EXPECT_TRUE(is_dropped(3) && is_dropped(8));
+    EXPECT_EQ(Reply(), 0U);
     if (geteuid() != 0) GTEST_SKIP() << "only root can be another user";
-    EXPECT_TRUE(In_Child([&] {
-        sockaddr_un address;
-        if (!platform::posix::Link_Address(Class, address, fault)) return false;
-        const Descriptor listener(socket(AF_UNIX, SOCK_SEQPACKET, 0));
-        // Who listens is who called listen().
-        return bind(listener.Get(), Generic(address), sizeof address) == 0 && seteuid(65534) == 0 &&
-               listen(listener.Get(), 1) == 0 && seteuid(0) == 0 &&
-               platform::FindWindowExA(Class) == 0;
-    }));
-}
-
-TEST_F(Transport, Hostile_Client_Is_Believed_Or_Ends_The_Server) {
-    const std::string other = "other-" + Block_Name;
-    const std::string small = Block_Name + "small";
-    const auto blocks = {Make_Block(other), Make_Block(small, 0x7FFF), Make_Block()};
-    std::uint8_t* const view = platform::MapViewOfFile(*(blocks.end() - 1));
-    ASSERT_NE(view, nullptr);
-    const Running_Server server(platform::headless::Answer_Batch);
-    EXPECT_EQ(Reply(), 1U);
-    EXPECT_EQ(Reply(Block_Name, "FSASMLIB:IPD"), 0U);
-    for (const std::string& name : {other, small, std::string("FSASMLIB:IPC:none"),
-                                    std::string("FSASMLIB:IPC:/../x"), std::string(255, 'F')}) {
-        EXPECT_EQ(Reply(name), 0U) << name;
-    }
-    // A sound read, whose answer must not come back, ahead of a broken request.
-    const std::uint32_t requests[][8] = {{1, 0x3304, 4, 0, 0, 3, 0, 0},
-                                         {1, 0x3304, 4, 0, 0, 1, 0, 0x7FF1},
-                                         {1, 0x3304, 4, 0, 0, 2, 0, 0xFFFFFFFF}};
-    for (const auto& batch : requests) {
-        std::memcpy(view, batch, sizeof batch);
-        EXPECT_EQ(Reply(), 0U) << batch[5];
-        EXPECT_EQ(std::memcmp(view, batch, sizeof batch), 0) << "a refused block is written to";
-    }
-    // Packets of a wrong length cost the client its connection.
-    sockaddr_un address;
-    std::string fault;
-    ASSERT_TRUE(platform::posix::Link_Address(Class, address, fault));
-    for (const std::size_t size : {7U, 264U}) {
-        const Descriptor raw(socket(AF_UNIX, SOCK_SEQPACKET, 0));
-        ASSERT_EQ(connect(raw.Get(), Generic(address), sizeof address), 0);
-        std::array<char, 300> packet{};
-        EXPECT_EQ(send(raw.Get(), packet.data(), size, 0), static_cast<ssize_t>(size));
-        EXPECT_EQ(recv(raw.Get(), packet.data(), packet.size(), 0), 0);
-    }
-    std::memset(view, 0, 4);
-    EXPECT_EQ(Reply(), 1U);
-    platform::UnmapViewOfFile(view);
-    for (const auto each : blocks)
-        platform::CloseHandle(each);
+    EXPECT_TRUE(Ended_Well(In_Child(
+        [&] { return seteuid(65534) == 0 && FindWindowExA(Class) == 0 && is_dropped(4); })));
 }
 
 }  // namespace

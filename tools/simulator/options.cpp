@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <climits>
+#include <cstdint>
 #include <string_view>
 
 namespace simulator {
@@ -12,11 +13,11 @@ const char* const Help_Text =
 
 Stands in for the simulator: answers Skerrand's link and flies an aircraft over
 the airports that Skerrand has found. The aircraft waits on the runway until the
-first client asks; then it takes off, flies to the destination or once round the
-departure, lands, and leaves the runway.
+first client asks; then it takes off and flies to the destination, where it
+lands, or straight on.
 
   --departure ICAO     where it starts (the first airport with a runway)
-  --destination ICAO   where it lands; without one it flies a traffic pattern
+  --destination ICAO   where it lands; without one it flies straight on
   --folder DIR         Skerrand's working folder (the current one)
   --wait               wait until the database of airports is there
   --speed-up N         let time pass N times as fast, 0.01 to 1000
@@ -32,82 +33,78 @@ Faults to try a client with:
 
   --help               show this text
 
-Exit status: 0 if it was ended by a signal or by --follow, 1 if it could not do
-its work, 2 if the command line is wrong, 3 if it died by --die-after.
+Exit status: 0 if it was ended by --follow, 1 if it could not do its work, 2 if
+the command line is wrong, 3 if it died by --die-after.
 )";
 
 namespace {
 
-template <typename Number, typename... Base>
-bool Take_Number(std::string_view text, Number& number, Number least, Number most, Base... base) {
+struct Flag {
+    std::string_view name;
+    bool Options::*value;
+};
+
+constexpr Flag flags[] = {{"--wait", &Options::wait},
+                          {"--fs98", &Options::fs98},
+                          {"--refuse", &Options::refuse},
+                          {"--help", &Options::help},
+                          {"-h", &Options::help}};
+
+struct Text {
+    std::string_view name;
+    std::string Options::*value;
+};
+
+constexpr Text texts[] = {{"--departure", &Options::departure},
+                          {"--destination", &Options::destination},
+                          {"--folder", &Options::folder}};
+
+struct Number {
+    std::string_view name;
+    double Options::*value;
+    double least, most;
+    std::chars_format format = std::chars_format::fixed;
+};
+
+constexpr Number numbers[] = {
+    {"--speed-up", &Options::speed_up, 0.01, 1000},
+    {"--altimeter", &Options::altimeter, 0, 4095},
+    {"--follow", &Options::follow, 1, INT_MAX},
+    {"--answer-late", &Options::late, 0, INT_MAX},
+    {"--die-after", &Options::answers, 0, INT_MAX},
+    {"--version", &Options::version, 0, UINT32_MAX, std::chars_format::hex}};
+
+template <typename Row, std::size_t Count>
+const Row* Row_Named(const Row (&rows)[Count], std::string_view name) {
+    const auto* const found = std::find_if(std::begin(rows), std::end(rows),
+                                           [=](const Row& row) { return row.name == name; });
+    return found == std::end(rows) ? nullptr : found;
+}
+
+bool Take_Number(const Number& row, std::string_view text, Options& options) {
     const char* const end = text.data() + text.size();
-    Number taken{};
-    const auto [stop, error] = std::from_chars(text.data(), end, taken, base...);
-    if (error != std::errc() || stop != end || !(taken >= least && taken <= most)) return false;
-    number = taken;
-    return true;
-}
-
-bool Take_Number(std::string_view text, std::optional<int>& number, int least) {
-    int taken = 0;
-    if (!Take_Number(text, taken, least, INT_MAX)) return false;
-    number = taken;
-    return true;
-}
-
-/// An option that stands alone.
-bool Take_Flag(std::string_view option, Options& options) {
-    if (option == "--wait") {
-        options.wait = true;
-    } else if (option == "--fs98") {
-        options.window_class = "FS98MAIN";
-    } else if (option == "--refuse") {
-        options.refuse = true;
-    } else if (option == "--help" || option == "-h") {
-        options.help = true;
-    } else {
-        return false;
-    }
-    return true;
-}
-
-bool Take_Text(std::string_view value, std::string& text) {
-    text = value;
-    return !value.empty();
-}
-
-/// False if the option does not take that value.
-bool Take_Value(std::string_view option, std::string_view value, Options& options) {
-    if (option == "--departure") return Take_Text(value, options.departure);
-    if (option == "--destination") return Take_Text(value, options.destination);
-    if (option == "--folder") return Take_Text(value, options.folder);
-    if (option == "--speed-up") return Take_Number(value, options.speed_up, 0.01, 1000.0);
-    if (option == "--altimeter") return Take_Number(value, options.altimeter, 0.0, 4095.0);
-    if (option == "--follow") return Take_Number(value, options.follow, 1);
-    if (option == "--version") {
-        return Take_Number(value, options.version, std::uint32_t{0}, UINT32_MAX, 16);
-    }
-    if (option == "--answer-late") return Take_Number(value, options.late, 0, INT_MAX);
-    return Take_Number(value, options.answers, 0);
-}
-
-bool Takes_Value(std::string_view option) {
-    constexpr std::string_view Names[] = {"--departure", "--destination", "--folder",
-                                          "--speed-up",  "--altimeter",   "--follow",
-                                          "--version",   "--answer-late", "--die-after"};
-    return std::find(std::begin(Names), std::end(Names), option) != std::end(Names);
+    double& number = options.*row.value;
+    const auto [stop, error] = std::from_chars(text.data(), end, number, row.format);
+    return error == std::errc() && stop == end && number >= row.least && number <= row.most;
 }
 
 }  // namespace
 
 std::string Parse_Options(int argc, const char* const* argv, Options& options) {
     for (int i = 1; i < argc; ++i) {
-        const std::string option = argv[i];
-        if (Take_Flag(option, options)) continue;
-        if (!Takes_Value(option)) return "unknown option " + option;
-        if (i + 1 == argc) return option + " needs a value";
+        const std::string name = argv[i];
+        if (const Flag* const flag = Row_Named(flags, name)) {
+            options.*flag->value = true;
+            continue;
+        }
+        const Text* const text = Row_Named(texts, name);
+        const Number* const number = Row_Named(numbers, name);
+        if (text == nullptr && number == nullptr) return "unknown option " + name;
+        if (i + 1 == argc) return name + " needs a value";
         const std::string value = argv[++i];
-        if (!Take_Value(option, value, options)) return option + " does not take " + value;
+        if (text != nullptr) options.*text->value = value;
+        const bool taken = text != nullptr ? !value.empty() : Take_Number(*number, value, options);
+        if (!taken) return name + " does not take " + value;
     }
     if (!options.destination.empty() && options.departure.empty()) {
         return "--destination goes with --departure";
