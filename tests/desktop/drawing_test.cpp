@@ -10,8 +10,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "platform/desktop/curve.h"
-#include "platform/desktop/device.h"
+#include "platform/desktop/drawing/clip.h"
+#include "platform/desktop/drawing/device.h"
 
 namespace platform {
 
@@ -117,7 +117,7 @@ TEST(Drawing, An_Arc_Must_Not_Sweep_The_Wrong_Way_Or_Mind_The_Order_Of_The_Corne
     } cases[] = {
         {{160, 50}, {110, 20}, "N"},    {{110, 20}, {160, 50}, "EWS"},
         {{160, 70}, {110, 100}, "ENW"}, {{110, 100}, {160, 70}, "S"},
-        {{121, 0}, {119, 0}, "N"},      {{119, 0}, {121, 0}, "EWS"},
+        {{123, 0}, {117, 0}, "N"},      {{117, 0}, {123, 0}, "EWS"},
         {{150, 30}, {150, 30}, "ENWS"}, {{150, 30}, {240, -60}, "ENWS"},
     };
     const std::pair<char, QPoint> places[] = {
@@ -202,19 +202,22 @@ TEST(Drawing, Outlines_That_Share_An_Arc_Must_Not_Fill_The_Gaps_Of_Each_Other) {
             const int drawn = Count_Drawn(page.Image());
             for (int i = 0; i < 10; ++i)
                 Draw_Arc(page, box, 0.628 * i + 0.3, 0.628 * i + 2.3);
-            EXPECT_LT(Count_Drawn(page.Image()) - drawn, 20 * pen_width) << height;
+            EXPECT_LT(Count_Drawn(page.Image()) - drawn, 25 * pen_width) << height;
         }
     }
 }
 
-TEST(Drawing, Dashes_Of_A_Flat_Ellipse_Must_Not_Be_Longer_Here_And_Shorter_There) {
-    for (const double radius_y : {100.0, 300.0, 900.0}) {
-        const desktop::Ellipse_Shape shape{{0, 0}, 300, radius_y};
-        const desktop::Outline outline = Outline_Of(shape, 9);
-        for (double t = 0; t < 6; t += 0.01) {
-            const double way = Way_To(outline, t + 0.01) - Way_To(outline, t);
-            const double length = QLineF(shape.At(t), shape.At(t + 0.01)).length();
-            EXPECT_NEAR(way, length, length / 20) << radius_y << ' ' << t;
+// By this the dashes of an arc know where they would be if the whole ellipse had been drawn.
+TEST(Drawing, The_Length_Of_A_Flat_Outline_Must_Not_Be_Miscounted) {
+    using namespace desktop;
+    for (const Measure measure : {Measure::True_Length, Measure::Painted_Pixels}) {
+        for (const double radius_y : {100.0, 300.0, 900.0}) {
+            const Ellipse_Shape shape{{0, 0}, 300, radius_y};
+            double way = 0;
+            for (double t = 0; t < Turn; t += 0.001) {
+                EXPECT_NEAR(Way_To(measure, shape, t), way, 1) << radius_y << ' ' << t;
+                way += Length(measure, shape.At(t + 0.001) - shape.At(t));
+            }
         }
     }
 }
@@ -231,42 +234,6 @@ TEST(Drawing, A_Dashed_Figure_Must_Not_Vanish_Because_It_Is_Small) {
         MoveToEx(&page.device, 20, 20), LineTo(&page.device, 18 + size, 22);
         EXPECT_GT(Count_Drawn(page.Image().copy(90, 0, 30, 50)), 0) << size;
         EXPECT_GT(Count_Drawn(page.Image().copy(10, 0, 30, 50)), 0) << size;
-    }
-}
-
-int Count_Without_Neighbour(const QImage& image, const QImage& other) {
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QRect near = QRect(x - 1, y - 1, 3, 3) & image.rect();
-            if (image.pixel(x, y) == Black && Count_Drawn(other.copy(near)) == 0) ++count;
-        }
-    }
-    return count;
-}
-
-// Only an image without an alpha channel is painted directly; the toolkit draws on the other.
-TEST(Drawing, Dashes_Put_Into_The_Image_Must_Not_Stray_From_Those_The_Toolkit_Draws) {
-    for (const int scale : {1, 2, 4}) {
-        Page direct(Pen_Style::Dashed);
-        Page toolkit(Pen_Style::Dashed);
-        toolkit.image = toolkit.image.convertToFormat(QImage::Format_ARGB32);
-        for (Page* page : {&direct, &toolkit}) {
-            page->device.pen_scale = page->device.dash_scale = scale;
-            for (const int radius : {10, 57, 130, 400, 1000000}) {
-                Ellipse(&page->device, 120 - radius, 60 - radius, 121 + radius, 61 + radius);
-                Ellipse(&page->device, 240 - 2 * radius, 0, 241, radius);
-            }
-            for (const QPoint end : {QPoint(500, 90), {-3, 119}, {30, -400}, {239, 119}}) {
-                MoveToEx(&page->device, 120, 60), LineTo(&page->device, end.x(), end.y());
-            }
-            desktop::Close_Painter(page->device);
-        }
-        const int drawn = Count_Drawn(toolkit.image);
-        const int corners = 4 * (scale - 1);  // of dashes, which are cut another way
-        EXPECT_LE(Count_Without_Neighbour(direct.image, toolkit.image), corners) << scale;
-        EXPECT_LE(Count_Without_Neighbour(toolkit.image, direct.image), corners) << scale;
-        EXPECT_NEAR(Count_Drawn(direct.image), drawn, 0.05 * drawn) << scale;
     }
 }
 
