@@ -1,12 +1,11 @@
 // Prints one page on the system's default printer:
 //   print_page [wait | measure]
-// The output is one line of whole numbers: dots to the inch, the size of what can be printed, and
-// that of the page's text, in dots. With "wait" it waits for a line of input between opening the
+// The output is one line: dots to the inch, and in dots the size of what can be printed and that of
+// the page's first text. With "wait" it waits for a line of input between opening the
 // printer and printing, with "measure" it prints nothing. The status is 0 if the printer has taken
 // the page, 1 if not.
 
 #include <QApplication>
-#include <cmath>
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -24,9 +23,9 @@ int main(int argc, char** argv) {
     constexpr std::string_view Text = "S\xE3o Paulo, Z\xFCrich, \x8Alapanice & Co";
     const int width = static_cast<int>(Printable_Size().width);
     const int height = static_cast<int>(Printable_Size().height);
+    const Size text = Text_Size(Text);
     std::cout << Printer_Twips_To_Pixels_X(1440) << ' ' << width << ' ' << height << ' '
-              << std::lround(Text_Size(Text).width) << ' ' << std::lround(Text_Size(Text).height)
-              << std::endl;
+              << text.width << ' ' << text.height << std::endl;
     const std::string mode = argc > 1 ? argv[1] : "";
     if (mode == "measure") return EXIT_SUCCESS;
     std::string line;
@@ -39,14 +38,17 @@ int main(int argc, char** argv) {
     Set_Pen_Style(page, Pen_Style::Dashed);
     MoveToEx(page, 0, height / 4);
     LineTo(page, width, height / 4);
+    // The arc is a part of the ellipse: its dashes lie on those.
+    Ellipse(page, 300, height * 11 / 20, width - 300, height * 19 / 20);
+    Arc(page, 300, height * 11 / 20, width - 300, height * 19 / 20, width, 0, 0, height);
     Set_Pen_Style(page, Pen_Style::Solid);
     Set_Fill_Style(page, Fill_Style::Solid);
     Rectangle(page, width / 2, height / 20, width * 3 / 4, height / 5);
     // What runs past the edge is cut off.
     Rectangle(page, width - 200, height / 2, width + 9, height / 2 + 200);
     TextOutA(page, width - width / 10, height * 3 / 10, "A text that is cut off at the edge");
-    Set_Text_Cursor(width / 10, height / 5);
+    Set_Text_Cursor(0.1 * width, 0.2 * height);
     Print_Line(Text);
-    Print_Line("second");
+    Print_Line("2");
     return End_Document() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
