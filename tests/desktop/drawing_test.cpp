@@ -10,7 +10,6 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "platform/desktop/drawing/clip.h"
 #include "platform/desktop/drawing/device.h"
 
 namespace platform {
@@ -66,6 +65,8 @@ constexpr auto Far_Arc = [](auto* d, int from_x, int to_x) {
 // In a flat ellipse the radial of 45 degrees meets the outline close to the middle.
 constexpr auto Flat_Arc = [](auto* d) { Arc(d, 20, 50, 220, 70, 160, 20, 80, 20); };
 
+constexpr auto Short_Line = [](auto* d) { MoveToEx(d, 20, 60), LineTo(d, 50, 60); };
+
 constexpr Probe probes[] = {
     {"outline of a rectangle", [](auto* d) { Rectangle(d, 90, 20, 20, 90); }, 20, 50, Black},
     {"inside", [](auto* d) { Rectangle(d, 90, 90, 20, 20); }, 50, 50, Blue},
@@ -78,6 +79,8 @@ constexpr Probe probes[] = {
     {"its end", Flat_Arc, 114, 50, Black},
     {"behind its end", Flat_Arc, 90, 50, White},
     {"before its start", Flat_Arc, 150, 50, White},
+    {"last point of a line", Short_Line, 50, 60, Black},
+    {"behind it", Short_Line, 51, 60, White},
     {"diagonal", [](auto* d) { MoveToEx(d, INT_MIN, INT_MIN), LineTo(d, INT_MAX, INT_MAX); }, 70,
      70, Black},
     {"slope", [](auto* d) { MoveToEx(d, -1000000000, 60), LineTo(d, 1000000200, 61); }, 50, 60,
@@ -149,15 +152,15 @@ TEST(Drawing, A_Dashed_Curve_Must_Not_Become_Solid_Or_Empty) {
 }
 
 TEST(Drawing, Dashes_Must_Not_Start_Anew_At_Each_Short_Line_Of_An_Outline) {
-    for (const int pen_width : {1, 2}) {
+    for (const int scale : {1, 2}) {
         Page page(Pen_Style::Dashed);
-        Set_Pen_Width(&page.device, pen_width);
+        page.device.pen_scale = page.device.dash_scale = scale;
         MoveToEx(&page.device, 10, 20);
         for (int x = 12; x <= 210; x += 2) {
             LineTo(&page.device, x, 20);
             MoveToEx(&page.device, x, 20);
         }
-        EXPECT_NEAR(Count_Drawn(page.Image()), 200 * 5 / 9.0 * pen_width, 15);
+        EXPECT_NEAR(Count_Drawn(page.Image()), 200 * 5 / 9.0 * scale, 15);
     }
 }
 
@@ -182,21 +185,6 @@ TEST(Drawing, Outlines_That_Share_An_Arc_Must_Not_Fill_The_Gaps_Of_Each_Other) {
             for (int i = 0; i < 10; ++i)
                 Draw_Arc(page, box, 0.628 * i + 0.3, 0.628 * i + 2.3);
             EXPECT_LT(Count_Drawn(page.Image()) - drawn, 25 * pen_width) << height;
-        }
-    }
-}
-
-// By this the dashes of an arc know where they would be if the whole ellipse had been drawn.
-TEST(Drawing, The_Length_Of_A_Flat_Outline_Must_Not_Be_Miscounted) {
-    using namespace desktop;
-    for (const Measure measure : {Measure::True_Length, Measure::Painted_Pixels}) {
-        for (const double radius_y : {100.0, 300.0, 900.0}) {
-            const Ellipse_Shape shape{{0, 0}, 300, radius_y};
-            double way = 0;
-            for (double t = 0; t < Turn; t += 0.001) {
-                EXPECT_NEAR(Way_To(measure, shape, t), way, 1) << radius_y << ' ' << t;
-                way += Length(measure, shape.At(t + 0.001) - shape.At(t));
-            }
         }
     }
 }

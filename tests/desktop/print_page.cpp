@@ -45,10 +45,10 @@ int main(int argc, char** argv) {
     Set_Fill_Style(page, Fill_Style::Solid);
     Rectangle(page, width / 2, height / 20, width * 3 / 4, height / 5);
     // What runs past the edge is cut off.
-    Rectangle(page, width - 200, height / 2, width + 9, height / 2 + 200);
     TextOutA(page, width - width / 10, height * 3 / 10, "A text that is cut off at the edge");
     Set_Text_Cursor(0.1 * width, 0.2 * height);
     Print_Line(Text);
     Print_Line("2");
+    Rectangle(page, width - 200, height / 2, width + 9, height / 2 + 200);
     return End_Document() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
