@@ -65,7 +65,9 @@ constexpr auto Far_Arc = [](auto* d, int from_x, int to_x) {
 // In a flat ellipse the radial of 45 degrees meets the outline close to the middle.
 constexpr auto Flat_Arc = [](auto* d) { Arc(d, 20, 50, 220, 70, 160, 20, 80, 20); };
 
-constexpr auto Short_Line = [](auto* d) { MoveToEx(d, 20, 60), LineTo(d, 50, 60); };
+constexpr auto Wide_Line = [](auto* d) {
+    Set_Pen_Width(d, 3), MoveToEx(d, 20, 60), LineTo(d, 50, 60);
+};
 
 constexpr Probe probes[] = {
     {"outline of a rectangle", [](auto* d) { Rectangle(d, 90, 20, 20, 90); }, 20, 50, Black},
@@ -79,8 +81,8 @@ constexpr Probe probes[] = {
     {"its end", Flat_Arc, 114, 50, Black},
     {"behind its end", Flat_Arc, 90, 50, White},
     {"before its start", Flat_Arc, 150, 50, White},
-    {"last point of a line", Short_Line, 50, 60, Black},
-    {"behind it", Short_Line, 51, 60, White},
+    {"last point of a wide line", Wide_Line, 51, 59, Black},
+    {"behind it", Wide_Line, 53, 60, White},
     {"diagonal", [](auto* d) { MoveToEx(d, INT_MIN, INT_MIN), LineTo(d, INT_MAX, INT_MAX); }, 70,
      70, Black},
     {"slope", [](auto* d) { MoveToEx(d, -1000000000, 60), LineTo(d, 1000000200, 61); }, 50, 60,
@@ -197,6 +199,7 @@ TEST(Drawing, A_Dashed_Figure_Must_Not_Vanish_Because_It_Is_Small) {
     }
     for (int size = 0; size < 10; ++size) {
         Page page(Pen_Style::Dashed);
+        page.device.pen_scale = page.device.dash_scale = 2;
         MoveToEx(&page.device, 20, 20), LineTo(&page.device, 20 + size, 20);
         EXPECT_GT(Count_Drawn(page.Image()), 0) << size;
     }
