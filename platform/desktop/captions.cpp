@@ -6,9 +6,8 @@
 #include <QLabel>
 #include <QStyle>
 
-#include "platform/desktop/fonts.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/live_control.h"
-#include "platform/desktop/text.h"
 
 namespace platform::desktop {
 

@@ -2,7 +2,7 @@
 
 #include <QValidator>
 
-#include "platform/desktop/text.h"
+#include "platform/desktop/drawing/text.h"
 
 namespace platform::desktop {
 

@@ -12,11 +12,10 @@
 #include "platform/desktop/entry_list.h"
 #include "platform/desktop/events.h"
 #include "platform/desktop/folder_list.h"
-#include "platform/desktop/fonts.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/live_control.h"
 #include "platform/desktop/picture.h"
 #include "platform/desktop/scale.h"
-#include "platform/desktop/text.h"
 #include "platform/desktop/text_boxes.h"
 #include "platform/desktop/window_widget.h"
 

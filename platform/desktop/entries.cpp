@@ -6,7 +6,7 @@
 #include "platform/desktop/entry_list.h"
 #include "platform/desktop/folder_list.h"
 #include "platform/desktop/live_control.h"
-#include "platform/desktop/text.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/windows.h"
 
 namespace platform {

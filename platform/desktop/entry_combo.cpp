@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "platform/desktop/code_page_validator.h"
-#include "platform/desktop/fonts.h"
+#include "platform/desktop/drawing/text.h"
 
 namespace platform::desktop {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/desktop/events.h"
-#include "platform/desktop/text.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/window_widget.h"
 
 namespace platform::desktop {

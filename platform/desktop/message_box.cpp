@@ -6,7 +6,7 @@
 #include <QSpacerItem>
 
 #include "platform/desktop/handlers.h"
-#include "platform/desktop/text.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/window_widget.h"
 #include "platform/desktop/windows.h"
 

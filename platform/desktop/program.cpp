@@ -6,7 +6,7 @@
 #include <clocale>
 
 #include "platform/desktop/application.h"
-#include "platform/desktop/fonts.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/handlers.h"
 #include "platform/desktop/keys.h"
 #include "platform/desktop/program_icon.h"

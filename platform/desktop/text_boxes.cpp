@@ -9,7 +9,7 @@
 #include "platform/desktop/events.h"
 #include "platform/desktop/handlers.h"
 #include "platform/desktop/live_control.h"
-#include "platform/desktop/text.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/windows.h"
 
 namespace platform {

@@ -1,7 +1,7 @@
 #include "platform/window.h"
 
 #include "platform/desktop/handlers.h"
-#include "platform/desktop/text.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/window_widget.h"
 #include "platform/desktop/windows.h"
 

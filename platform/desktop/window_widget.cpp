@@ -5,11 +5,10 @@
 #include <QWindow>
 
 #include "platform/desktop/builder.h"
-#include "platform/desktop/fonts.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/handlers.h"
 #include "platform/desktop/hold_above.h"
 #include "platform/desktop/scale.h"
-#include "platform/desktop/text.h"
 #include "platform/desktop/windows.h"
 
 namespace platform::desktop {

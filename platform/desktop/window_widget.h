@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "platform/desktop/canvas.h"
+#include "platform/desktop/drawing/canvas.h"
 #include "platform/desktop/live_control.h"
 
 namespace platform::desktop {

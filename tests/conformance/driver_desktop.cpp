@@ -13,7 +13,7 @@
 #include "platform/desktop/application.h"
 #include "platform/desktop/handlers.h"
 #include "platform/desktop/scale.h"
-#include "platform/desktop/text.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/window_widget.h"
 #include "platform/desktop/windows.h"
 #include "tests/conformance/driver.h"

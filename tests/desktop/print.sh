@@ -11,7 +11,7 @@ folder=$2
 can_print || exit 77
 mkdir -p "$folder"
 cd "$folder" || exit 1
-rm -f -- *
+rm -rf -- *
 export QT_QPA_PLATFORM=offscreen
 trap end_printing EXIT
 
@@ -28,22 +28,47 @@ white() {
     [ "${share%.*}" -ge "$2" ] && [ "${share%.*}" -le "$3" ] || fail "$4: $share % of $1 is white"
 }
 
-# The printer's page is 2329 dots wide and starts at 75, 150 of the sheet's 2479 x 3508.
+# The four edges of the frame in a viewer of that resolution, where a hairline is below a pixel.
+expect_frame() {
+    local part thick=$((400 * $1 / 300))
+    pdftoppm -r "$1" -png -singlefile page.pdf page
+    for part in ${thick}x1+0+$((5 * thick)) ${thick}x1+$((21 * thick / 4))+$((5 * thick)) \
+        1x$thick+$((5 * thick / 8))+0 1x$thick+$((5 * thick / 8))+$((31 * thick / 4)); do
+        white "$part" 0 99 "an edge at $1 dots to the inch"
+    done
+}
+
+# The page is 2291 x 3133 dots and starts at 75, 225 of the sheet's 2479 x 3508.
 expect_page() {
+    local width height
     await_jobs || fail "a page is not printed"
     mv "$printed" page.pdf || fail "no page is printed"
-    pdftoppm -r 300 -png -singlefile page.pdf page
-    pdftotext page.pdf - | grep -q 'São Paulo, Zürich, Šlapanice' || fail "a text is not legible"
+    grep -q '^300 2291 3133 ' measures || fail "the page's size is $(cat measures)"
     pdfinfo page.pdf | grep -q '^Title: *KSEA Chart$' || fail "the job has no title"
-    white 75x3508+0+0 100 100 "left of the frame"
-    white 1x3200+75+151 0 1 "the frame"
-    white 74x3508+2405+0 100 100 "right of the frame"
-    white 500x1+1000+952 35 60 "the dashes"
-    [ "$(convert page.png -crop 500x400+1300+350 -depth 8 txt:- | grep -c '#FF0000')" -eq 200000 ] ||
+    pdftotext page.pdf - | grep -q 'São Paulo, Zürich, Šlapanice' || fail "a text is not legible"
+    # Where the words lie, in points; a letter may be narrower than its advance.
+    read -r _ _ _ width height < measures
+    pdftotext -bbox page.pdf - | tr '"' ' ' | awk -v width="$width" -v height="$height" '
+        />S..?o</ { left = $3; top = $5 } />Co</ { right = $7 } />2</ { next_left = $3; next_top = $5 }
+        function is_near(points, dots) { return (points - dots * 72 / 300) ^ 2 < 1 }
+        END { exit !(is_near(next_left, 75) && is_near(top, 225 + 0.2 * 3133) &&
+                     is_near(right - left, width) && is_near(next_top - top, height)) }' ||
+        fail "the text is not at its place"
+    expect_frame 300
+    white 110x3508+2369+0 100 100 "right of the frame"
+    white 500x1+1000+1008 35 60 "the dashes"
+    white 300x40+1100+1940 96 97 "the dashes of two outlines"
+    [ "$(convert page.png -crop 500x400+1280+410 -depth 8 txt:- | grep -c '#FF0000')" -eq 200000 ] ||
         fail "the figure is not red"
 }
 
-print_page() { timeout 20 "$bin/print_page" || fail "the page is not taken"; }
+print_page() { timeout 20 "$bin/print_page" "$@" > measures || fail "the page is not taken"; }
+
+# expect_sheet NAME DOTS...
+expect_sheet() {
+    print_page measure
+    grep -q "^${*:2} " measures || fail "$1: a page of $(cat measures)"
+}
 
 # Does something to the printer after it is opened, and prints: that has to fail, and in time.
 expect_failure() {
@@ -61,6 +86,7 @@ expect_failure() {
 begin_printing || fail "no printing service"
 print_page
 expect_page
+for resolution in 60 72 96 100 150; do expect_frame $resolution; done
 
 expect_failure lpadmin -x test
 add_printer
@@ -69,6 +95,12 @@ cupsaccept test
 expect_failure kill -STOP $service
 kill -CONT $service
 expect_failure stop_service
+
+# Without a printer the sheet is that of the user's country, with margins of 5 mm.
+LC_ALL=C expect_sheet A4 600 4724 6783
+printf 'LC_PAPER\nheight 279\nwidth 216\nEND LC_PAPER\n' > letter
+localedef -c -i letter ./us_letter 2> /dev/null
+LOCPATH=$PWD LC_PAPER=us_letter LC_ALL='' expect_sheet Letter 600 4866 6366
 serve || fail "no printing service"
 
 cupsdisable test # it takes jobs and keeps them
@@ -76,7 +108,14 @@ print_page
 cupsenable test
 expect_page
 
-lpoptions -p test -o media=A5
+lpoptions -p test/small -o media=A5
+lpoptions -d test/small > /dev/null
 print_page
 await_jobs || fail "a page is not printed"
 pdfinfo "$printed" | grep -q A5 || fail "the user's own paper is not taken"
+sed /300dpi/d "$here/printer.ppd" > fine.ppd
+lpadmin -p test -P fine.ppd 2> /dev/null
+expect_sheet "a finer printer" 1200 6250
+lpadmin -p raw -E -v "file://$printed" 2> /dev/null
+lpoptions -d raw > /dev/null
+expect_sheet "a printer that does not tell" 600 4724 6783

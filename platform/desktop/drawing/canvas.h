@@ -3,7 +3,7 @@
 #include <QImage>
 #include <QWidget>
 
-#include "platform/desktop/device.h"
+#include "platform/desktop/drawing/device.h"
 #include "platform/window.h"
 
 namespace platform::desktop {
@@ -38,12 +38,10 @@ class Canvas final : public QWidget {
   private:
     QSize Device_Size() const;
     void Fit_Image();
-    QColor Back_Colour() const;
 
     const Window& table;
     QImage image;
     QRectF user_bounds;
-    bool has_changed = false;
 };
 
 }  // namespace platform::desktop

@@ -7,18 +7,15 @@
 #include <cmath>
 #include <memory>
 #include <optional>
-#include <span>
 #include <string>
 
-#include "platform/desktop/device.h"
-#include "platform/desktop/fonts.h"
-#include "platform/desktop/pdf_file.h"
-#include "platform/desktop/print_queue.h"
+#include "platform/desktop/drawing/device.h"
+#include "platform/desktop/drawing/text.h"
+#include "platform/desktop/printing/print_queue.h"
 #include "platform/desktop/scale.h"
-#include "platform/desktop/shapes.h"
-#include "platform/desktop/sheet.h"
-#include "platform/desktop/text.h"
+#include "platform/files.h"
 #include "platform/message_box.h"
+#include "platform/program.h"
 
 namespace platform {
 
@@ -66,22 +63,32 @@ QFont Page_Font(int resolution) {
     return font;
 }
 
+/// The document's name, made fit for a file's on this system or on a disk shared with another.
 std::string Title(std::string_view document) {
+    constexpr std::string_view Unfit = "/\\:*?\"<>|";
     std::string title(document.substr(0, Longest_Title));
     for (char& character : title) {
         const QChar unicode = desktop::To_Qt(std::string_view(&character, 1)).at(0);
-        if (unicode.category() == QChar::Other_Control) character = '_';
+        if (unicode.category() == QChar::Other_Control || Unfit.find(character) != Unfit.npos) {
+            character = '_';
+        }
     }
+    // A file whose name begins with a dot is hidden.
+    if (title.empty() || title.front() == '.') title.insert(0, "_");
     return title;
 }
 
+/// For systems without a printer: "TITLE.pdf" in the working folder, or "TITLE (2).pdf" and so on
+/// where a file stands already.
 bool Save_To_File(const std::string& title, const QByteArray& pdf) {
+    std::string name = title + ".pdf";
+    for (int number = 2; File_Exists(name); ++number)
+        name = title + " (" + std::to_string(number) + ").pdf";
     const auto* first = reinterpret_cast<const std::uint8_t*>(pdf.constData());
-    const auto name = desktop::Save_Pdf(title, {first, static_cast<std::size_t>(pdf.size())});
-    if (!name) return false;
-    Message_Box(
-        "The page was printed to the file \"" + *name + "\", because no default printer was found.",
-        Icon::Information, Message_Title);
+    if (!Write_File(name, {first, static_cast<std::size_t>(pdf.size())}).empty()) return false;
+    Message_Box("The page was printed to the file \"" + Current_Folder() + "/" + name +
+                    "\", because no default printer was found.",
+                Icon::Information, Message_Title);
     return true;
 }
 
@@ -100,7 +107,6 @@ bool Open_Printer() {
     device.area = QRectF(QPointF(), sheet.layout.paintRectPixels(sheet.resolution).size());
     device.dash_scale = sheet.resolution / Screen_Resolution;
     device.font = Page_Font(sheet.resolution);
-    device.texts.clear();
     return true;
 }
 
@@ -140,12 +146,11 @@ bool Start_Page(std::string_view document) {
     page.writer.setPageLayout(printer->sheet.layout);
     printer->device.target = &page.writer;
     Set_Text_Cursor(0, 0);
-    QPainter* painter = desktop::Open_Painter(&printer->device);
-    if (painter == nullptr) {
+    if (!desktop::Open_Painter(&printer->device)) {
         Drop_Document();
         return false;
     }
-    painter->setClipRect(printer->device.area);
+    printer->device.painter.setClipRect(printer->device.area);
     return true;
 }
 
@@ -163,9 +168,8 @@ Size Text_Size(std::string_view text) {
 
 void Print_Line(std::string_view text) {
     if (!printer) return;
-    if (QPainter* painter = desktop::Open_Painter(&printer->device)) {
-        desktop::Draw_Text(printer->device, *painter, {printer->cursor_x, printer->cursor_y}, text);
-    }
+    TextOutA(&printer->device, static_cast<int>(std::lround(printer->cursor_x)),
+             static_cast<int>(std::lround(printer->cursor_y)), text);
     Set_Text_Cursor(0, printer->cursor_y + Text_Size(text).height);
 }
 

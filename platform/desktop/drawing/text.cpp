@@ -1,12 +1,12 @@
-#include "platform/desktop/fonts.h"
+#include "platform/desktop/drawing/text.h"
 
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <array>
 #include <cmath>
 
+#include "platform/code_page.h"
 #include "platform/desktop/scale.h"
-#include "platform/desktop/text.h"
 
 namespace platform::desktop {
 
@@ -37,6 +37,22 @@ QString Default_Family() {
 }
 
 }  // namespace
+
+QString To_Qt(std::string_view text) {
+    return QString::fromStdString(To_Utf8(text));
+}
+
+std::optional<std::string> From_Qt(const QString& text) {
+    return From_Utf8(text.toStdString());
+}
+
+std::string From_Qt_Lossy(const QString& text) {
+    return From_Utf8_Lossy(text.toStdString());
+}
+
+QString Caption_To_Qt(std::string_view caption) {
+    return To_Qt(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
 
 QFont Default_Font() {
     static const QString family = Default_Family();

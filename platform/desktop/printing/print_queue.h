@@ -1,15 +1,23 @@
 #pragma once
 
 #include <QByteArray>
+#include <QPageLayout>
 #include <QString>
 #include <optional>
 #include <string>
 
-#include "platform/desktop/sheet.h"
-
-/// The system's printers, each a queue of jobs on a server, in this system or another. A server
-/// that does not answer is given up after some seconds.
+/// The system's printers, each a queue of jobs on a server, in this system or another, and their
+/// paper. A server that does not answer is given up after some seconds.
 namespace platform::desktop {
+
+/// The sheet of paper that a page is printed on.
+struct Sheet {
+    QPageLayout layout;    ///< with the margins that cannot be printed
+    int resolution = 600;  ///< dots to the inch; finer ones only make the work of a print longer
+};
+
+/// The sheet that is usual where the user lives, A4 or Letter, with small margins.
+Sheet Usual_Sheet();
 
 struct Print_Queue {
     std::string name;

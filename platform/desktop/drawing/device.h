@@ -5,10 +5,6 @@
 #include <QPainter>
 #include <QPointF>
 #include <QRectF>
-#include <QStaticText>
-#include <functional>
-#include <string>
-#include <unordered_map>
 
 #include "platform/drawing.h"
 
@@ -21,7 +17,7 @@ struct Device_Context {
     double pen_scale = 1;            ///< pixels to a step of the pen's width
     double dash_scale = 1;           ///< the same for the lengths of dashes and their gaps
     QFont font;                      ///< sized in the target's pixels
-    std::function<void()> changed;   ///< called at each change of the picture
+    bool has_changed = false;        ///< set by each call that draws
 
     Colour pen_colour = Colour_Black;
     int pen_width = 1;
@@ -31,20 +27,17 @@ struct Device_Context {
     QPointF position;     ///< whole numbers
     double dash_way = 0;  ///< length of the line so far, so that dashes run on from line to line
 
-    QPainter painter;      ///< open from the first call that draws until `Close_Painter`
-    bool pen_set = false;  ///< whether the painter has the state above
-    std::unordered_map<std::string, QStaticText> texts;  ///< texts laid out once
+    QPainter painter;  ///< open from the first call that draws until `Close_Painter`
 };
 
 }  // namespace platform
 
 namespace platform::desktop {
 
-/// The pen's width in pixels of the target; 1 at least.
-double Pen_Pixels(const Device_Context& device);
+QColor To_Qt(Colour colour);
 
-/// The painter with the device's state, ready to draw; null if nothing can be drawn.
-QPainter* Open_Painter(Device_Context* device);
+/// Makes the painter ready; false if nothing can be drawn.
+bool Open_Painter(Device_Context* device);
 
 /// Has to come before anything else reads, replaces or deletes the target.
 void Close_Painter(Device_Context& device);

@@ -1,13 +1,17 @@
 // The printing service is asked with its own library, not through the toolkit, which waits without
 // an end for a server that hangs and does not tell whether a job was taken.
 
+#include "platform/desktop/printing/print_queue.h"
+
+#include <QPageSize>
+#include <QRectF>
+#include <QSizeF>
 #include <algorithm>
-#include <cmath>
+#include <cstdint>
 #include <cups/cups.h>
 #include <cups/pwg.h>
+#include <langinfo.h>
 #include <memory>
-
-#include "platform/desktop/print_queue.h"
 
 namespace platform::desktop {
 
@@ -78,10 +82,16 @@ Reached Reach(const char* name, const char* instance) {
     return queue;
 }
 
-/// Lengths of paper come in hundredths of a millimetre.
-std::optional<Sheet> Sheet_Of(const cups_size_t& size) {
-    return Make_Sheet(QSizeF(size.width, size.length) / 100,
-                      QMarginsF(size.left, size.top, size.right, size.bottom) / 100);
+QPageLayout Layout_Of(const QPageSize& size, QMarginsF millimetres) {
+    return {size, QPageLayout::Portrait, millimetres, QPageLayout::Millimeter};
+}
+
+/// Lengths of paper come in hundredths of a millimetre. A printer that tells of none has the usual.
+Sheet Sheet_Of(const cups_size_t& size) {
+    const QPageLayout layout =
+        Layout_Of(QPageSize(QSizeF(size.width, size.length) / 100, QPageSize::Millimeter),
+                  QMarginsF(size.left, size.top, size.right, size.bottom) / 100);
+    return layout.paintRect().isEmpty() ? Usual_Sheet() : Sheet{layout};
 }
 
 /// An attribute of a collection; 0 if it has none of that name.
@@ -126,26 +136,17 @@ cups_size_t Default_Paper(const Reached& queue) {
 }
 
 /// The finest resolution up to the usual one, else the next finer.
-int Best_Resolution(ipp_attribute_t* offered) {
-    constexpr double Centimetres_To_Inch = 2.54;
-    int below = 0;
-    int above = 0;
+int Best_Resolution(ipp_attribute_t* offered, int usual) {
+    const auto rank = [usual](int dots) { return dots <= usual ? usual - dots : dots; };
+    int best = 0;
     for (int i = 0; i < ippGetCount(offered); ++i) {
         int down = 0;
         ipp_res_t unit = IPP_RES_PER_INCH;
-        double dots = ippGetResolution(offered, i, &down, &unit);
-        dots = std::min(dots, static_cast<double>(down));
-        if (unit == IPP_RES_PER_CM) dots *= Centimetres_To_Inch;
-        const int resolution = static_cast<int>(std::lround(std::min(dots, 100000.0)));
-        if (resolution <= 0) continue;
-        if (resolution <= Usual_Resolution) {
-            below = std::max(below, resolution);
-        } else {
-            above = above == 0 ? resolution : std::min(above, resolution);
-        }
+        const int dots = std::min(ippGetResolution(offered, i, &down, &unit), down);
+        const bool is_better = best == 0 || rank(dots) < rank(best);
+        if (dots > 0 && unit == IPP_RES_PER_INCH && is_better) best = dots;
     }
-    if (below > 0) return below;
-    return above > 0 ? above : Usual_Resolution;
+    return best > 0 ? best : usual;
 }
 
 bool Send_Document(const Reached& queue, int job, const char* title, const QByteArray& pdf) {
@@ -163,6 +164,16 @@ bool Send_Document(const Reached& queue, int job, const char* title, const QByte
 
 }  // namespace
 
+Sheet Usual_Sheet() {
+    // The C library gives the number itself in the place of a text's address.
+    constexpr std::intptr_t Letter_Width = 216;  // millimetres
+    const bool is_letter =
+        reinterpret_cast<std::intptr_t>(nl_langinfo(_NL_PAPER_WIDTH)) == Letter_Width;
+    constexpr double Margin = 5;
+    return {Layout_Of(QPageSize(is_letter ? QPageSize::Letter : QPageSize::A4),
+                      {Margin, Margin, Margin, Margin})};
+}
+
 std::optional<Print_Queue> Default_Queue() {
     const Reached reached = Reach(nullptr, nullptr);
     if (!reached) return std::nullopt;
@@ -171,10 +182,11 @@ std::optional<Print_Queue> Default_Queue() {
     queue.name = destination.name;
     if (destination.instance != nullptr) queue.instance = destination.instance;
     const auto paper = Chosen_Paper(reached);
-    queue.sheet = Sheet_Of(paper ? *paper : Default_Paper(reached)).value_or(Usual_Sheet());
+    queue.sheet = Sheet_Of(paper ? *paper : Default_Paper(reached));
     queue.sheet.resolution =
         Best_Resolution(cupsFindDestSupported(reached.server.get(), reached.destination.get(),
-                                              reached.details.get(), "printer-resolution"));
+                                              reached.details.get(), "printer-resolution"),
+                        queue.sheet.resolution);
     return queue;
 }
 

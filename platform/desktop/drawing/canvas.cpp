@@ -1,11 +1,14 @@
-#include "platform/desktop/canvas.h"
+#include "platform/desktop/drawing/canvas.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <cmath>
+#include <utility>
 
-#include "platform/desktop/fonts.h"
+#include "platform/desktop/drawing/text.h"
 #include "platform/desktop/handlers.h"
+#include "platform/desktop/window_widget.h"
+#include "platform/desktop/windows.h"
 
 namespace platform::desktop {
 
@@ -13,7 +16,6 @@ Canvas::Canvas(const Window& window, QWidget* parent)
     : QWidget(parent), table(window), user_bounds(0, 0, window.client_width, window.client_height) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     device.pen_colour = window.fore_colour;
-    device.changed = [this] { has_changed = true; };
 }
 
 Canvas::~Canvas() {
@@ -28,14 +30,12 @@ void Canvas::Open() {
 void Canvas::Wipe() {
     if (image.isNull()) return;
     Close_Painter(device);
-    image.fill(Back_Colour());
-    has_changed = true;
+    image.fill(To_Qt(table.back_colour));
+    device.has_changed = true;
 }
 
 void Canvas::Show_Drawing() {
-    if (!has_changed) return;
-    has_changed = false;
-    update();
+    if (std::exchange(device.has_changed, false)) update();
 }
 
 QSize Canvas::Device_Size() const {
@@ -48,24 +48,18 @@ void Canvas::Fit_Image() {
     if (image.size() == wanted) return;
     Close_Painter(device);
     QImage fitted(wanted, QImage::Format_RGB32);
-    fitted.fill(Back_Colour());
+    fitted.fill(To_Qt(table.back_colour));
     if (!image.isNull()) QPainter(&fitted).drawImage(0, 0, image);
     image = std::move(fitted);
 
     QFont font = Default_Font();
     font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * devicePixelRatioF())));
-    if (font != device.font) device.texts.clear();
     device.font = font;
     device.pen_scale = devicePixelRatioF();
     device.dash_scale = device.pen_scale;
     device.area = image.rect();
     device.target = &image;
     update();
-}
-
-QColor Canvas::Back_Colour() const {
-    const Colour colour = table.back_colour;
-    return {colour.red, colour.green, colour.blue};
 }
 
 void Canvas::paintEvent(QPaintEvent*) {
@@ -109,3 +103,12 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
 }
 
 }  // namespace platform::desktop
+
+namespace platform {
+
+Device_Context* Window_Device(const Window& window) {
+    desktop::Window_Widget* widget = desktop::Find_Window(window);
+    return widget != nullptr ? &widget->canvas->device : nullptr;
+}
+
+}  // namespace platform
