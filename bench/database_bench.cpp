@@ -12,7 +12,6 @@
 #include "bench/timing.h"
 #include "platform/files.h"
 #include "scenery/database.h"
-#include "scenery/tables.h"
 
 namespace bench {
 

@@ -1,5 +1,4 @@
 #include <benchmark/benchmark.h>
-#include <cmath>
 #include <cstring>
 #include <malloc.h>
 #include <string>
@@ -12,9 +11,8 @@
 #include "scenery/bgl_reader.h"
 #include "scenery/bgl_walk.h"
 #include "scenery/catalogue.h"
-#include "scenery/local_grid.h"
+#include "scenery/database.h"
 #include "scenery/magnetic.h"
-#include "scenery/tables.h"
 
 namespace bench {
 
@@ -29,7 +27,6 @@ struct Image {
 
 std::vector<Image> images;
 std::size_t total_bytes = 0;
-std::size_t places = 0;    ///< points and parkings
 std::size_t elements = 0;  ///< points, parkings and runways
 
 void Walk_All() {
@@ -49,13 +46,10 @@ void Clear_Tables() {
 }
 
 void Count_Elements() {
-    places = 0;
     elements = 0;
     for (const Airport_Info& airport : airport_table) {
-        places += airport.taxi_points.size() + airport.parkings.size();
-        elements += airport.runways.size();
+        elements += airport.taxi_points.size() + airport.parkings.size() + airport.runways.size();
     }
-    elements += places;
 }
 
 void Walk(benchmark::State& state) {
@@ -93,24 +87,6 @@ void Copy_Bytes(benchmark::State& state) {
     }
 }
 
-/// The positions of as many points as the world has, some within two kilometres of each airport.
-void Place_Points(benchmark::State& state) {
-    for (auto _ : state) {
-        Time(state, [] {
-            double sum = 0;
-            for (const Airport_Info& airport : airport_table) {
-                const Local_Grid grid = Make_Local_Grid(airport.lat, airport.lon);
-                const std::size_t count = airport.taxi_points.size() + airport.parkings.size();
-                for (std::size_t i = 0; i < count; ++i) {
-                    const double x = static_cast<double>(i * 7919 % 4000) - 1999.5;
-                    sum += Grid_Longitude(grid, x) + Grid_Latitude(grid, -x);
-                }
-            }
-            benchmark::DoNotOptimize(sum);
-        });
-    }
-}
-
 /// What the table's memory alone costs: every airport with all its texts and arrays, from a table
 /// that is there already.
 void Copy_Table(benchmark::State& state) {
@@ -128,7 +104,6 @@ void Register_Scan() {
     Register("scan/walk", Walk);
     Register("scan/copy", Copy_Bytes);
     Register("scan/entries", Walk_Entries);
-    Register("scan/points", Place_Points);
     Register("scan/table", Copy_Table);
 }
 
@@ -178,7 +153,6 @@ void Add_Scan_Rows(const Results& results, std::vector<Row>& rows) {
                     .target = "500 ns or 150 MB/s",
                     .met = each <= 0.5e-6 || speed >= 150});
     rows.push_back(part("  of this: the walk over lists and entries", "scan/entries"));
-    rows.push_back(part("  of this: positions of points and parkings", "scan/points"));
     rows.push_back(part("  of this: the memory of the table (copying it)", "scan/table"));
 }
 

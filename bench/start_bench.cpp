@@ -7,7 +7,7 @@
 #include "platform/controls.h"
 #include "platform/headless/program.h"
 #include "platform/headless/timers.h"
-#include "scenery/tables.h"
+#include "scenery/database.h"
 #include "selection/form3.h"
 
 namespace bench {

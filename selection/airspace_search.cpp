@@ -1,19 +1,13 @@
 #include "selection/airspace_search.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include "app/messages.h"
-#include "app/settings.h"
 #include "chart/current_chart.h"
-#include "platform/controls.h"
-#include "platform/files.h"
 #include "scenery/bgl_reader.h"
 #include "scenery/bgl_walk.h"
-#include "scenery/tables.h"
-#include "selection/form3.h"
+#include "scenery/database.h"
 #include "selection/picks.h"
 
 namespace skerrand {
@@ -27,36 +21,15 @@ constexpr std::int32_t Class_C_Top = 4000;
 constexpr std::int32_t Tracon_Top = 10000;  // feet
 constexpr std::int32_t Tracon_Radius = 20;  // nautical miles
 
-/// The listed files that could not be read.
-struct Unread_Files {
-    int count = 0;
-    std::string first;
-};
-
-bool Has_Magic() {
-    return bgl_bytes.size() >= Magic_Offset + Bgl_Magic.size() &&
-           std::equal(Bgl_Magic.begin(), Bgl_Magic.end(), bgl_bytes.begin() + Magic_Offset);
-}
-
-void Show_Progress(int done, int files) {
-    platform::Set_Progress(form3::ProgressBar1, {.value = done, .minimum = 0, .maximum = files});
-    platform::Repaint(form3::ProgressBar1);
-}
-
 /// One file after the other goes through the same buffer.
-Unread_Files Search_Files() {
+Unread_Files Search_Files(void (*show_progress)(int done, int files)) {
     Unread_Files unread;
     const int files = static_cast<int>(airspace_files.size());
-    Show_Progress(0, files);
+    show_progress(0, files);
     for (int done = 0; done < files; ++done) {
-        current_file = airspace_files[static_cast<std::size_t>(done)];
-        if (!platform::Read_File(current_file, bgl_bytes, 1)) {
-            if (unread.count++ == 0) unread.first = current_file;
-        } else if (Has_Magic()) {
-            Walk_Bgl();
-        }
-        Show_Progress(done + 1, files);
-        platform::Repaint(form3::window);
+        const std::string& file = airspace_files[static_cast<std::size_t>(done)];
+        if (!Walk_File(file) && unread.count++ == 0) unread.first = file;
+        show_progress(done + 1, files);
     }
     platform::Bytes().swap(bgl_bytes);
     return unread;
@@ -97,28 +70,17 @@ void Complete(std::vector<Airspace_Info>& airspaces, const Airport_Info& airport
     }
 }
 
-void Tell_Unread(const Unread_Files& unread, std::size_t listed) {
-    Show_Message(std::to_string(unread.count) + " of the " + std::to_string(listed) +
-                     " scenery files with airspaces cannot be read, so the charts lack their "
-                     "airspaces. The first of them is\r\n" +
-                     unread.first + "\r\nIf your scenery has changed, end this program, delete " +
-                     Settings_File + ", " + Airports_File + " and " + Airspaces_File + " in " +
-                     app_path + " and start it again; it will then create its database anew.",
-                 platform::Icon::Exclamation);
-}
-
 }  // namespace
 
-void Search_Airspaces() {
+Unread_Files Search_Airspaces(void (*show_progress)(int done, int files)) {
     for (auto* table : {&departure_airspaces, &destination_airspaces, &current_airspaces}) {
         std::vector<Airspace_Info>().swap(*table);
     }
-    const std::size_t listed = airspace_files.size();
-    const Unread_Files unread = Search_Files();
+    const Unread_Files unread = Search_Files(show_progress);
     Release_Airspace_Files();
     Complete(departure_airspaces, departure_airport);
     Complete(destination_airspaces, destination_airport);
-    if (unread.count > 0) Tell_Unread(unread, listed);
+    return unread;
 }
 
 }  // namespace skerrand

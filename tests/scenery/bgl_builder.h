@@ -8,7 +8,7 @@
 
 #include "app/settings.h"
 #include "scenery/bgl_reader.h"
-#include "scenery/tables.h"
+#include "scenery/database.h"
 
 /// Images of BGL files, built from the bytes of their parts.
 namespace skerrand::bgl {

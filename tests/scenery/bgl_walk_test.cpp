@@ -3,8 +3,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "scenery/airspace_walk.h"
-#include "scenery/bgl_units.h"
+#include "scenery/airspace_reader.h"
+#include "scenery/bgl_reader.h"
 #include "tests/scenery/bgl_builder.h"
 
 namespace skerrand {

@@ -1,13 +1,9 @@
-#include <bit>
-#include <cmath>
+#include "scenery/taxi_reader.h"
+
 #include <gtest/gtest.h>
 #include <random>
 
 #include "scenery/airport_reader.h"
-#include "scenery/local_grid.h"
-#include "scenery/parking_name.h"
-#include "scenery/taxi_names.h"
-#include "selection/geodesy.h"
 #include "tests/scenery/bgl_builder.h"
 
 namespace skerrand {
@@ -123,29 +119,6 @@ TEST(Taxi_Names, Chain_Of_Numbers_Cut_Or_Looped) {
             ASSERT_EQ(paths, expected) << round;
         }
     }
-}
-
-std::uint64_t Bits(double value) {
-    return std::bit_cast<std::uint64_t>(value);
-}
-
-TEST(Local_Grid, Differs_From_The_Plain_Calculation) {
-    std::mt19937_64 random(2);
-    const double places[] = {0, -0.0, 90, -90, 180, -180, 45, 89.9999999, 179.9999999, 19000};
-    std::uniform_real_distribution<double> degrees(-180, 180), power(-45, 38);
-    for (int round = 0; round < 200000; ++round) {
-        const double lat = round % 8 == 0 ? places[random() % 10] : degrees(random) / 2;
-        const double lon = round % 16 < 2 ? places[random() % 10] : degrees(random);
-        const double metres = round % 3 == 0 ? std::pow(10, power(random)) : degrees(random) * 25;
-        const Local_Grid grid = Make_Local_Grid(lat, lon);
-        for (const double d : {metres, -metres}) {
-            const double x = Destination_Meters(lat, lon, d > 0 ? 90 : 270, d).lon;
-            const double z = Destination_Meters(lat, lon, d > 0 ? 0 : 180, d).lat;
-            ASSERT_EQ(Bits(Grid_Longitude(grid, d)), Bits(x)) << lat << ' ' << lon << ' ' << d;
-            ASSERT_EQ(Bits(Grid_Latitude(grid, d)), Bits(z)) << lat << ' ' << lon << ' ' << d;
-        }
-    }
-    EXPECT_EQ(Grid_Latitude(Make_Local_Grid(1.23456789, 45), -0.0), 1.23456789);
 }
 
 }  // namespace

@@ -4,10 +4,7 @@
 
 #include "app/settings.h"
 #include "chart/current_chart.h"
-#include "platform/controls.h"
-#include "platform/headless/message_box.h"
-#include "scenery/tables.h"
-#include "selection/form3.h"
+#include "scenery/database.h"
 #include "selection/picks.h"
 #include "tests/scenery/bgl_builder.h"
 
@@ -31,6 +28,8 @@ std::string Saved(const char* name, const Bytes& bytes) {
     return path;
 }
 
+std::string progress;
+
 class Airspace_Search : public testing::Test {
   protected:
     void SetUp() override {
@@ -39,15 +38,17 @@ class Airspace_Search : public testing::Test {
         departure_airport = {};
         departure_airport.lat = departure_airport.lon = 45;
         destination_airport = departure_airport;
-        platform::headless::Take_Messages();
     }
     void TearDown() override { database_ready = false; }
 
-    static void Search(const std::vector<std::string>& files) {
-        airspace_file_count = static_cast<std::int32_t>(files.size());
+    static Unread_Files Search(const std::vector<std::string>& files) {
         airspace_files = files;
-        Search_Airspaces();
+        progress.clear();
+        Unread_Files unread = Search_Airspaces([](int done, int of) {
+            progress += std::to_string(done) + '/' + std::to_string(of) + ' ';
+        });
         EXPECT_TRUE(airspace_files.empty());
+        return unread;
     }
 };
 
@@ -102,21 +103,14 @@ TEST_F(Airspace_Search, UnreadableFileEndsTheSearchOrGoesUntold) {
     Bytes foreign = sound;
     foreign[0x76] = 0;
     const std::string last = Saved("last.bgl", sound);
-    platform::Show(form3::window);
-    Search({Saved("foreign.bgl", foreign), Saved("short.bgl", Bytes(0x79)), last});
+    EXPECT_EQ(Search({Saved("foreign.bgl", foreign), Saved("short.bgl", Bytes(0x79)), last}).count,
+              0);
     EXPECT_EQ(departure_airspaces.size(), 1);
-    EXPECT_TRUE(platform::headless::Take_Messages().empty());
-    Search({"no such 1", last, "no such 2", last});
+    const Unread_Files unread = Search({"no such 1", last, "no such 2", last});
     EXPECT_EQ(departure_airspaces.size(), 2);
-    EXPECT_EQ(airspace_file_count, 4);
-    const platform::Progress full = platform::Progress_Of(form3::ProgressBar1);
-    EXPECT_EQ(full.maximum, 4);
-    EXPECT_EQ(full.value, 4);
-    platform::Unload(form3::window);
-    const auto messages = platform::headless::Take_Messages();
-    ASSERT_EQ(messages.size(), 1);
-    EXPECT_EQ(messages[0].text.find("2 of the 4"), 0);
-    EXPECT_NE(messages[0].text.find("no such 1"), std::string::npos);
+    EXPECT_EQ(unread.count, 2);
+    EXPECT_EQ(unread.first, "no such 1");
+    EXPECT_EQ(progress, "0/4 1/4 2/4 3/4 4/4 ");
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include "platform/code_page.h"
 #include "platform/program.h"
 #include "scenery/database.h"
-#include "scenery/tables.h"
 #include "tools/simulator/flight_plan.h"
 
 namespace simulator {
