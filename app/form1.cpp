@@ -63,6 +63,8 @@ void Timer1_Timer() {
         return platform::End_Program();
     }
     Set_App_Path(folder);
+    for (const char* name : {Settings_File, Airports_File, Airspaces_File})
+        platform::Remove_Leftovers(Own_File(name));
     if (!All_Own_Files_Exist()) return Begin_Setup();
     if (!Load_Settings(Settings_File)) {
         Show_Message("The settings file " + Own_File(Settings_File) +
