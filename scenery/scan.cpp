@@ -13,8 +13,6 @@ namespace skerrand {
 
 namespace {
 
-constexpr const char* Bgl_Ending = ".bgl";
-
 // Where the scan stands.
 std::size_t area_index = 0;
 std::string current_folder;

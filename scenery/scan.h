@@ -9,6 +9,8 @@
 /// The scan of the whole scenery for airports and for files with airspaces, a BGL file a step.
 namespace skerrand {
 
+inline constexpr const char* Bgl_Ending = ".bgl";  ///< of the scenery's files, in any case
+
 /// Files and folders of the scenery that are there and cannot be read.
 struct Unread_Files {
     int count = 0;

@@ -1,10 +1,14 @@
 #include "selection/airspace_search.h"
 
 #include <cstdint>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "chart/current_chart.h"
+#include "platform/code_page.h"
+#include "platform/files.h"
 #include "scenery/bgl_reader.h"
 #include "scenery/bgl_walk.h"
 #include "scenery/database.h"
@@ -21,14 +25,30 @@ constexpr std::int32_t Class_C_Top = 4000;
 constexpr std::int32_t Tracon_Top = 10000;  // feet
 constexpr std::int32_t Tracon_Radius = 20;  // nautical miles
 
-/// One file after the other goes through the same buffer.
+/// One file after the other goes through the same buffer. A path of the list is in lower case, so
+/// it stands for each file of that name in any case; those without airspaces cost just their
+/// reading.
 Unread_Files Search_Files(void (*show_progress)(int done, int files)) {
     Unread_Files unread;
+    std::optional<std::string> folder;
+    std::multimap<std::string, std::string> names;  // of the files in it, by their lower case
     const int files = static_cast<int>(airspace_files.size());
     show_progress(0, files);
     for (int done = 0; done < files; ++done) {
-        const std::string& file = airspace_files[static_cast<std::size_t>(done)];
-        if (!Walk_File(file) && unread.count++ == 0) unread.first = file;
+        const std::string& listed = airspace_files[static_cast<std::size_t>(done)];
+        const std::size_t name = listed.find_last_of("\\/") + 1;
+        if (folder != listed.substr(0, name)) {
+            folder = listed.substr(0, name);
+            names.clear();
+            const auto found = platform::File_Names(*folder, Bgl_Ending);
+            for (const std::string& file : found.value_or(std::vector<std::string>()))
+                names.emplace(platform::Lower_Case(file), file);
+        }
+        const auto [first, last] = names.equal_range(listed.substr(name));
+        bool sound = first != last;
+        for (auto file = first; file != last; ++file)
+            sound = Walk_File(*folder + file->second) && sound;
+        if (!sound && unread.count++ == 0) unread.first = listed;
         show_progress(done + 1, files);
     }
     platform::Bytes().swap(bgl_bytes);

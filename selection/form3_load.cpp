@@ -137,11 +137,31 @@ bool Write_Files() {
     return false;
 }
 
+/// A scan that misses what is there tells so; a file that is damaged costs its rest in silence.
+void Tell_Gaps() {
+    const Unread_Files& unread = Unread_In_Scan();
+    std::string text;
+    if (airport_count == 0) text = "No airport was found in the scenery of\r\n" + fs_root + "\r\n";
+    if (unread.count > 0) {
+        text += std::to_string(unread.count) +
+                " of the scenery's files and folders cannot be read, so that the database lacks "
+                "what they hold. The first of them is\r\n" +
+                unread.first + "\r\n";
+    }
+    if (text.empty()) return;
+    Show_Message(text + "To start again, end this program, delete " + Settings_File + ", " +
+                     Airports_File + " and " + Airspaces_File + " in " + app_path +
+                     " and start it again; it will then ask for your Flight Simulator's folder and "
+                     "create its database anew.",
+                 Icon::Exclamation);
+}
+
 void End_Scan() {
     platform::Stop_Timer(Scan_Bgls);
     platform::Set_Interval(Scan_Bgls, 0);
     platform::Bytes().swap(bgl_bytes);
     if (!Write_Files()) return;
+    Tell_Gaps();
     Show_Message(
         "The Database File was created successfully!. Now this program will add all airports to "
         "the list, please wait.",

@@ -211,8 +211,7 @@ void Play(Scenario& scenario, const std::string& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::string scratch = (fs::temp_directory_path() / "skerrand_XXXXXX").string();
-    if (argc != 4 || mkdtemp(scratch.data()) == nullptr) {
+    if (argc != 4) {
         std::cerr << "run_scenario SKERRAND_HEADLESS MAKE_WORLD FILE.scenario\n";
         return 2;
     }
@@ -221,8 +220,9 @@ int main(int argc, char** argv) {
     Scenario scenario{.program = fs::absolute(argv[1]),
                       .make_world = fs::absolute(argv[2]),
                       .folder = file.parent_path(),
-                      .scratch = fs::canonical(scratch)};
-    fs::create_directory(scenario.scratch / "work");
+                      .scratch = fs::canonical(fs::temp_directory_path()) /
+                                 ("skerrand_" + std::to_string(getpid()))};
+    fs::create_directories(scenario.scratch / "work");
     fs::current_path(scenario.scratch / "work");
     Play(scenario, file.filename());
     End_Program(scenario);

@@ -1,5 +1,6 @@
 #include "selection/airspace_search.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 #include "app/settings.h"
@@ -111,6 +112,10 @@ TEST_F(Airspace_Search, UnreadableFileEndsTheSearchOrGoesUntold) {
     EXPECT_EQ(unread.count, 2);
     EXPECT_EQ(unread.first, "no such 1");
     EXPECT_EQ(progress, "0/4 1/4 2/4 3/4 4/4 ");
+    std::filesystem::copy(last, testing::TempDir() + "/LAST.bgl");
+    EXPECT_EQ(Search({last}).count, 0);
+    EXPECT_EQ(departure_airspaces.size(), 2) << "a list in lower case stands for both";
+    std::filesystem::remove(testing::TempDir() + "/LAST.bgl");
 }
 
 }  // namespace
