@@ -24,31 +24,17 @@ Bytes Doubles(std::initializer_list<double> values) {
 Bytes Text(std::string_view text) {
     return Join({Word(std::ssize(text)), bgl::Text(text)});
 }
-Bytes Array(std::int32_t size) {
-    return Join({Word(1), Longs({size, 0})});
-}
-
 constexpr std::size_t Last_Record = 64;
 
 /// An airport with one of everything, every field different.
 Airport_Info Full_Airport() {
     const std::vector<Runway_Info> runways{{"9L", "27R", 3, 4, 5, 6, 7, 8, 9, 10, 11}};
-    return {"Name",
-            "ICAO",
-            1.5,
-            -2.5,
-            "c",
-            "g",
-            "t",
-            "d",
-            "a",
-            "n",
-            "i",
-            runways,
-            {{"ILS", 12, 13, 14, "109.5"}},
-            {{15, 16, 17}},
-            {{"GATE 1", 18, 19, 20}},
-            {{21, 22, 23, "B"}}};
+    const std::vector<Ils_Info> ils{{"ILS", 12, 13, 14, "109.5"}};
+    const std::vector<Parking_Info> parkings{{"GATE 1", 18, 19, 20}};
+    const std::vector<Taxi_Point> points{{15, 16, 17}};
+    const std::vector<Taxi_Path> paths{{21, 22, 23, "B"}};
+    return {"Name", "ICAO", 1.5, -2.5,    "c", "g",    "t",      "d",
+            "a",    "n",    "i", runways, ils, points, parkings, paths};
 }
 
 std::vector<Airport_Info> Sample() {
@@ -62,13 +48,14 @@ std::vector<Airport_Info> Sample() {
 
 TEST(Database, FieldOutOfItsPlace) {
     const Bytes runways =
-        Join({Array(2), Text("9L"), Text("27R"), Doubles({3, 4, 5, 6}), Longs({7}), Word(8),
-              Word(9), Longs({10, 11}), Bytes(2 + 2 + 48), Longs({1})});
-    const Bytes ils = Join({Array(2), Text("ILS"), Doubles({12, 13}), Word(14), Text("109.5"),
-                            Bytes(2 + 18 + 2), Longs({1})});
-    const Bytes points = Join({Array(1), Longs({15}), Doubles({16, 17}), Longs({1})});
-    const Bytes parkings = Join({Array(1), Text("GATE 1"), Doubles({18, 19}), Longs({20, 1})});
-    const Bytes paths = Join({Array(1), Longs({21, 22, 23}), Text("B"), Longs({1})});
+        Join({Word(1), Longs({2, 0}), Text("9L"), Text("27R"), Doubles({3, 4, 5, 6}), Longs({7}),
+              Word(8), Word(9), Longs({10, 11}), Bytes(2 + 2 + 48), Longs({1})});
+    const Bytes ils = Join({Word(1), Longs({2, 0}), Text("ILS"), Doubles({12, 13}), Word(14),
+                            Text("109.5"), Bytes(2 + 18 + 2), Longs({1})});
+    const Bytes points = Join({Word(1), Longs({1, 0}), Longs({15}), Doubles({16, 17}), Longs({1})});
+    const Bytes parkings =
+        Join({Word(1), Longs({1, 0}), Text("GATE 1"), Doubles({18, 19}), Longs({20, 1})});
+    const Bytes paths = Join({Word(1), Longs({1, 0}), Longs({21, 22, 23}), Text("B"), Longs({1})});
     const Bytes expected = Join({Text("Name"), Text("ICAO"), Doubles({1.5, -2.5}), Text("c"),
                                  Text("g"), Text("t"), Text("d"), Text("a"), Text("n"), Text("i"),
                                  runways, ils, points, parkings, paths, Bytes(Last_Record)});
