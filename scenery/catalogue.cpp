@@ -106,13 +106,11 @@ std::string With_Scenery_Folder(std::string_view value) {
     return local;
 }
 
-std::string On_Mapped_Drive(std::string local, std::string_view entry) {
-    const std::string lower = platform::Lower_Case(local);
+std::string On_Mapped_Drive(std::string_view local, std::string_view entry) {
     const std::string label =
         platform::Lower_Case(entry.substr(std::min(Label_Start, entry.size())));
-    if (label.empty()) return lower;
-    if (lower.find(label) == std::string::npos) return local;
-    return Replace_All(lower, label, entry.substr(0, Drive_Length));
+    if (label.empty()) return std::string(local);
+    return Replace_All(platform::Lower_Case(local), label, entry.substr(0, Drive_Length));
 }
 
 std::string Resolve(const std::string& value, std::span<const std::string> drive_entries) {

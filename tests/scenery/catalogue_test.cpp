@@ -16,7 +16,7 @@ TEST(Catalogue, AreaWithAnothersText) {
          "[Area.1]\rTitle=A\n\n\r\n[Area.2]\nTitle=B\r[Area.3]\r\nTitle=C",
          {"A", "B", "C"}},
         {"letters' case minded", "[AREA.001]\nTITLE=Al\n[aREA.2]\ntitle=Be", {"Al", "Be"}},
-        {"blanks kept, or tabs taken for blanks", "[Area.1]\nTitle=  A b \t \n", {"A b \t"}},
+        {"blanks kept, or tabs taken for blanks", "[Area.1]\nTitle= \tA b \t \n", {"\tA b \t"}},
         {"key ahead of a blank found", "[Area.1]\nTitle =A\n[Area.2]\nTitle=\n", {"", ""}},
         {"key in a longer name not found", "[Area.1]\nSubtitle=A\nTitle=B", {"A"}},
         {"indented head not seen", "  [Area.1]\nTitle=A\n [Area.2]  \nTitle=B", {"A", "B"}},

@@ -26,19 +26,21 @@ std::string Path_Names(const Airport_Info& airport) {
 
 TEST(Taxi_Reader, Lists_Read_Or_Replaced_Wrongly) {
     const Bytes points = Points({Point(7, 0, 0), Point(1, 100, -0.0F)});
-    const Bytes parkings = Parkings({Parking(0, 1852, 30.48F, 0x800605)});
+    const Bytes parkings = Parkings({Parking(-1852, 1852, 30.48F, 0x800605)});
     const Bytes paths = Paths({Path(0, 0, 1, 1), Path(1, 1, 0, 0), Path(2, 3, 4, 1),
                                Path(1, 0, 0, 1), Path(1, 0, 0, 2), Path(9, 0, 0, -1)});
     const Airport_Info airport =
         Read(Join({Position(5000875, 333), Runway({.designator = 1}),
                    Taxi({points, parkings, paths, Longs({0, 12}), Longs({-5, 20}),
                          Names({"X", "A"}), Points({Point(1, 5, 5)})}),
-                   Taxi({Points({Point(3, 0, 0)}), Longs({1, 16, 0, 0, 0, 0})})}));
+                   Taxi({Points({Point(3, 0, -1852)}), Longs({1, 16, 0, 0, 0, 0})})}));
     ASSERT_EQ(airport.taxi_points.size(), 1U) << "the second block's list";
     EXPECT_EQ(airport.taxi_points[0].kind, 3);
     EXPECT_EQ(airport.taxi_points[0].lon, airport.lon) << "the same to the bit";
     ASSERT_EQ(airport.parkings.size(), 1U);
+    EXPECT_EQ(airport.taxi_points[0].lat, 44.983333);
     EXPECT_EQ(airport.parkings[0].lat, 45.016667);
+    EXPECT_NEAR(airport.parkings[0].lon, airport.lon - 0.023570, 1e-6);
     EXPECT_EQ(airport.parkings[0].radius_ft, 100);
     EXPECT_EQ(airport.parkings[0].name, "SE PARKING 12");
     EXPECT_EQ(Path_Names(airport), "A|Runway 9L|1|Runway |2|-1|");
