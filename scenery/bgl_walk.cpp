@@ -1,6 +1,5 @@
 #include "scenery/bgl_walk.h"
 
-#include <algorithm>
 #include <array>
 
 #include "platform/code_page.h"
@@ -21,11 +20,6 @@ constexpr std::int64_t Sections_Mark = 0x90;  // 1, or the file has no sections
 constexpr std::int64_t Airport_Section = 0x9C;
 constexpr std::int64_t Airspace_Section = 0xA4;
 
-bool Has_Magic() {
-    return bgl_bytes.size() >= Magic_Offset + Bgl_Magic.size() &&
-           std::equal(Bgl_Magic.begin(), Bgl_Magic.end(), bgl_bytes.begin() + Magic_Offset);
-}
-
 bool Walk_Sections() {
     if (!Can_Read(Sections_Mark, 4)) return false;
     if (Read_Long(Sections_Mark) != 1) return true;
@@ -44,7 +38,7 @@ bool Walk_File(const std::string& path) {
     std::array<std::uint8_t, Bgl_Magic.size()> magic{};
     if (platform::Read_File_Part(path, Magic_Offset, magic) && magic != Bgl_Magic) return true;
     if (!platform::Read_File(path, bgl_bytes, 1)) return false;
-    if (Has_Magic()) Walk_Bgl();
+    Walk_Bgl();  // a file too short for the magic has no sections either
     return true;
 }
 
