@@ -110,20 +110,13 @@ bool Matches(std::span<const std::string> expected, std::span<const std::string>
     return Matches(any_lines ? expected : expected.subspan(1), answer.subspan(1));
 }
 
-/// The first lines of both from where they differ.
+/// The first line of both that differs.
 std::string Difference(const Lines& expected, const Lines& answer) {
-    constexpr std::size_t most = 12;
-    std::size_t same = 0;
-    while (same < std::min(expected.size(), answer.size()) &&
-           Line_Matches(expected[same], answer[same])) {
-        ++same;
-    }
-    std::string text;
-    for (const auto& [mark, lines] : {std::pair("\n  - ", &expected), {"\n  + ", &answer}}) {
-        for (std::size_t i = same; i < std::min(lines->size(), same + most); ++i)
-            text += mark + (*lines)[i];
-    }
-    return text;
+    std::size_t at = 0;
+    while (at < std::min(expected.size(), answer.size()) && Line_Matches(expected[at], answer[at]))
+        ++at;
+    const auto line = [at](const Lines& lines) { return at < lines.size() ? lines[at] : "(none)"; };
+    return "  - " + line(expected) + "\n  + " + line(answer);
 }
 
 void Give_Command(Scenario& scenario) {
@@ -133,8 +126,8 @@ void Give_Command(Scenario& scenario) {
     Lines answer;
     const bool answered = Read_Answer(scenario.talk, answer);
     if (!answered || !Matches(scenario.expected, answer)) {
-        Report(scenario, "> " + line + (answered ? "" : "  the program is gone") +
-                             Difference(scenario.expected, answer));
+        Report(scenario, "> " + line + Difference(scenario.expected, answer) +
+                             (answered ? "" : "\n  the program is gone"));
     }
     if (!answered || scenario.command == "quit") End_Program(scenario);
 }
