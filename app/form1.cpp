@@ -1,7 +1,12 @@
 #include "app/form1.h"
 
-#include "app/startup.h"
+#include "app/form2.h"
+#include "app/messages.h"
+#include "app/settings.h"
+#include "platform/program.h"
 #include "platform/timers.h"
+#include "scenery/database.h"
+#include "selection/form3.h"
 
 namespace skerrand::form1 {
 
@@ -37,9 +42,42 @@ namespace {
 
 constexpr auto Timer1 = platform::Find_Control(window, "Timer1");
 
+/// The three files of the program live and die together: if one is missing, or the settings cannot
+/// be read, the others are deleted.
+void Begin_Setup() {
+    Delete_Own_Files();
+    first_run = true;
+    platform::Unload(window);
+    platform::Show(form2::window);
+}
+
+/// The start-up decision: leaves the splash for setup or, if all is there, for the picker.
 void Timer1_Timer() {
     platform::Stop_Timer(Timer1);
-    Decide_Start();
+    const std::string folder = platform::Current_Folder();
+    if (folder.empty()) {
+        Show_Message(
+            "The name of the folder that Skerrand was started in has characters that it cannot "
+            "use. Please start it in another folder.",
+            platform::Icon::Critical);
+        return platform::End_Program();
+    }
+    Set_App_Path(folder);
+    for (const char* name : {Settings_File, Airports_File, Airspaces_File})
+        platform::Remove_Leftovers(Own_File(name));
+    if (!All_Own_Files_Exist()) return Begin_Setup();
+    if (!Load_Settings(Settings_File)) {
+        Show_Message("The settings file " + Own_File(Settings_File) +
+                         " is damaged. Please choose your Flight Simulator's folder again; the "
+                         "database of airports will be created anew.",
+                     platform::Icon::Exclamation);
+        return Begin_Setup();
+    }
+    first_run = false;
+    airport_count = settings.airport_count;
+    airspace_file_count = settings.airspace_file_count;
+    platform::Unload(window);
+    platform::Show(form3::window);
 }
 
 }  // namespace

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
+
+#include "app/fields.h"
 
 namespace skerrand {
 
@@ -17,62 +18,19 @@ namespace {
 
 constexpr std::array Own_Files = {Settings_File, Airports_File, Airspaces_File};
 
-/// Reads little-endian fields one after the other; once one is missing, all further ones are.
-class Field_Reader {
-  public:
-    explicit Field_Reader(const platform::Bytes& bytes) : bytes_(bytes) {}
-
-    bool Ok() const { return ok_; }
-
-    std::uint32_t Unsigned(std::size_t width) {
-        std::uint32_t value = 0;
-        if (!Take(width)) return 0;
-        for (std::size_t i = 0; i < width; ++i) {
-            value |= static_cast<std::uint32_t>(bytes_[next_ - width + i]) << (8 * i);
-        }
-        return value;
-    }
-
-    std::int32_t Long() { return static_cast<std::int32_t>(Unsigned(4)); }
-
-    std::uint8_t Byte() { return static_cast<std::uint8_t>(Unsigned(1)); }
-
-    std::string Text() {
-        const std::size_t length = Unsigned(2);
-        if (!Take(length)) return {};
-        const auto start = bytes_.begin() + static_cast<std::ptrdiff_t>(next_ - length);
-        return {start, start + static_cast<std::ptrdiff_t>(length)};
-    }
-
-  private:
-    bool Take(std::size_t count) {
-        ok_ = ok_ && count <= bytes_.size() - next_;
-        if (ok_) next_ += count;
-        return ok_;
-    }
-
-    const platform::Bytes& bytes_;
-    std::size_t next_ = 0;
-    bool ok_ = true;
-};
-
-void Put_Unsigned(platform::Bytes& bytes, std::uint32_t value, std::size_t width) {
-    for (std::size_t i = 0; i < width; ++i) {
-        bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
-    }
-}
-
-void Put_Long(platform::Bytes& bytes, std::int32_t value) {
-    Put_Unsigned(bytes, static_cast<std::uint32_t>(value), 4);
-}
-
-void Put_Text(platform::Bytes& bytes, const std::string& text) {
-    const std::size_t length = std::min<std::size_t>(text.size(), 65535);
-    Put_Unsigned(bytes, static_cast<std::uint32_t>(length), 2);
-    bytes.insert(bytes.end(), text.begin(), text.begin() + static_cast<std::ptrdiff_t>(length));
+template <typename File, typename Record>
+void Record_Fields(File& file, Record& record) {
+    Fields(file, record.signature, record.format_mark, record.sim_version, record.fs_path,
+           record.airport_count, record.airspace_file_count, record.key_departure,
+           record.key_destination, record.key_zoom_in, record.key_zoom_out, record.key_pause);
 }
 
 }  // namespace
+
+void Set_App_Path(std::string folder) {
+    if (folder.ends_with('\\') || folder.ends_with('/')) folder.pop_back();
+    app_path = folder;
+}
 
 std::string Own_File(const char* name) {
     return app_path + "\\" + name;
@@ -89,36 +47,18 @@ void Delete_Own_Files() {
 }
 
 bool Parse_Settings(const platform::Bytes& bytes, Settings_Rec& record) {
-    Field_Reader reader(bytes);
+    Field_Reader file{bytes};
     Settings_Rec read;
-    read.signature = reader.Text();
-    read.format_mark = reader.Byte();
-    read.sim_version = reader.Byte();
-    read.fs_path = reader.Text();
-    read.airport_count = reader.Long();
-    read.airspace_file_count = reader.Long();
-    read.key_departure = reader.Long();
-    read.key_destination = reader.Long();
-    read.key_zoom_in = reader.Long();
-    read.key_zoom_out = reader.Long();
-    read.key_pause = reader.Long();
-    if (!reader.Ok() || read.airport_count < 0 || read.airspace_file_count < 0) return false;
+    Record_Fields(file, read);
+    if (!file.ok || read.airport_count < 0 || read.airspace_file_count < 0) return false;
     record = read;
     return true;
 }
 
 platform::Bytes Settings_Bytes(const Settings_Rec& record) {
-    platform::Bytes bytes;
-    Put_Text(bytes, record.signature);
-    bytes.push_back(record.format_mark);
-    bytes.push_back(record.sim_version);
-    Put_Text(bytes, record.fs_path);
-    for (const std::int32_t number :
-         {record.airport_count, record.airspace_file_count, record.key_departure,
-          record.key_destination, record.key_zoom_in, record.key_zoom_out, record.key_pause}) {
-        Put_Long(bytes, number);
-    }
-    return bytes;
+    Field_Writer file;
+    Record_Fields(file, record);
+    return file.bytes;
 }
 
 bool Load_Settings(const std::string& file) {

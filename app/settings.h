@@ -39,6 +39,9 @@ extern bool first_run;            ///< the databases have to be built
 extern bool database_ready;       ///< the tables are complete
 extern Settings_Rec settings;     ///< as last read or written
 
+/// Takes the working folder as `app_path`; one separator at its end goes, also that of a root.
+void Set_App_Path(std::string folder);
+
 /// Whether settings and databases are all there.
 bool All_Own_Files_Exist();
 

@@ -10,7 +10,6 @@
 #include "platform/program.h"
 #include "platform/window.h"
 #include "scenery/database.h"
-#include "scenery/tables.h"
 #include "selection/airspace_search.h"
 #include "selection/geodesy.h"
 #include "selection/picks.h"

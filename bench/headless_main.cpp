@@ -9,9 +9,7 @@
 #include "platform/headless/program.h"
 #include "platform/headless/protocol.h"
 #include "scenery/database.h"
-#include "scenery/tables.h"
 #include "selection/airspace_search.h"
-#include "selection/picker.h"
 #include "selection/picks.h"
 
 // skerrand_bench [WORLD] [--benchmark_...]: measures the scenery of that folder and what is made of
@@ -118,23 +116,6 @@ void Write_Table(benchmark::State& state) {
     if (!fault.empty()) Give_Up(fault);
 }
 
-/// Both picks, beside one plain pass for one airport, which most of the table leaves after a look
-/// at the name's length.
-void Find(benchmark::State& state) {
-    const Airport_Info wanted = airport_table[airport_table.size() / 2];
-    const std::string departure = List_Entry(wanted);
-    const std::string destination = List_Entry(airport_table[airport_table.size() / 3]);
-    Measure(
-        state, Clock::Processor, 0, [] {},
-        [&] { benchmark::DoNotOptimize(Find_Picks(airport_table, departure, destination)); },
-        [&wanted] {
-            std::ptrdiff_t found = 0;
-            for (const Airport_Info& one : airport_table)
-                found += one.airport_name == wanted.airport_name && one.icao_id == wanted.icao_id;
-            benchmark::DoNotOptimize(found);
-        });
-}
-
 /// For the first and the last airport, beside reading the files.
 void Search(benchmark::State& state) {
     departure_airport = airport_table.front();
@@ -146,7 +127,7 @@ void Search(benchmark::State& state) {
             if (!Read_Airspace_List()) Give_Up("the list does not read back");
             files = airspace_files;
         },
-        Search_Airspaces, [&files] { Read_Files(files); });
+        [] { Search_Airspaces(); }, [&files] { Read_Files(files); });
     if (departure_airspaces.size() + destination_airspaces.size() < 3) Give_Up("no airspaces");
 }
 
@@ -158,7 +139,6 @@ void Add_World_Benchmarks() {
     Add("world/later_start", 15, Later_Start);
     Add("world/read_table", 15, Read_Table);
     Add("world/write_table", 15, Write_Table);
-    Add("world/find_picks", 200, Find)->Unit(benchmark::kMicrosecond);
     Add("world/search_airspaces", 50, Search);
 }
 

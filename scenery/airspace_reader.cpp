@@ -1,14 +1,13 @@
 #include "scenery/airspace_reader.h"
 
-#include <cstring>
+#include <array>
 #include <iterator>
 #include <string>
 #include <vector>
 
-#include "scenery/airspace_entries.h"
-#include "scenery/airspace_info.h"
+#include "app/settings.h"
 #include "scenery/bgl_reader.h"
-#include "scenery/bgl_units.h"
+#include "scenery/database.h"
 #include "selection/geodesy.h"
 #include "selection/picks.h"
 #include "selection/rounding.h"
@@ -17,7 +16,13 @@ namespace skerrand {
 
 namespace {
 
+// The entries of the section, which have one layout on both levels: the section is a chain of them,
+// and so are the children of a group.
+constexpr std::int32_t Container = 1;
+constexpr std::int32_t Passed_Entry = 0x30001;
+constexpr std::int32_t Airspace_Group = 4;
 constexpr std::int32_t Airspace_Object = 5;
+constexpr std::int64_t Entry_Head = 16;  // from an entry to its first child
 
 constexpr std::int32_t Rec_Name = 0x10006;
 constexpr std::int32_t Rec_Bounds = 0x1000B;
@@ -30,13 +35,29 @@ constexpr std::int32_t Rec_Arc_Ccw = 0x12007;
 constexpr std::int32_t Rec_Circle = 0x12008;
 constexpr std::int32_t Rec_Frequency = 0x20001;
 
-/// Which tables the object at hand has added to. The last airspace there takes its records.
-struct Hits {
-    bool departure = false;
-    bool destination = false;
-
-    bool Any() const { return departure || destination; }
+/// One of the two airports. The last airspace of its table takes the records of the object at hand,
+/// once that has enclosed the airport.
+struct Side {
+    const Airport_Info& airport;
+    std::vector<Airspace_Info>& table;
+    bool hit = false;
 };
+using Sides = std::array<Side, 2>;
+
+/// Walks a chain of entries from `start` on, and calls `read` with the position of each container
+/// of that kind; a false answer of it ends the walk of the file.
+bool Walk_Containers(std::int64_t start, std::int32_t kind, bool (*read)(std::int64_t entry)) {
+    std::int64_t entry = start;
+    for (;;) {
+        if (!Can_Read(entry, 4)) return false;
+        const std::int32_t type = Read_Long(entry);
+        if (type != Container && type != Passed_Entry) return true;
+        if (!Can_Read(entry + 4, type == Container ? 8 : 4)) return false;
+        const std::int32_t size = Read_Long(entry + 4);
+        if (type == Container && Read_Long(entry + 8) == kind && !read(entry)) return false;
+        if (!Step_Over(entry, size)) return false;
+    }
+}
 
 /// Degrees.
 struct Bounding_Box {
@@ -74,22 +95,19 @@ bool Add_Airspace(const Bounding_Box& box, std::vector<Airspace_Info>& table) {
     return true;
 }
 
-bool Read_Bounds(std::int64_t record, Hits& hits) {
-    if (!In_Image(record + 8, 16)) return false;
-    Bounding_Box box{.south = Latitude_At(record + 8), .north = Latitude_At(record + 16)};
-    const bool at_departure = Spans(box.south, departure_airport.lat, box.north);
-    const bool at_destination = Spans(box.south, destination_airport.lat, box.north);
-    if (!at_departure && !at_destination) return true;
-
-    box.west = Longitude_At(record + 12);
-    box.east = Longitude_At(record + 20);
-    if (at_departure && Spans(box.west, departure_airport.lon, box.east)) {
-        if (!Add_Airspace(box, departure_airspaces)) return false;
-        hits.departure = true;
-    }
-    if (at_destination && Spans(box.west, destination_airport.lon, box.east)) {
-        if (!Add_Airspace(box, destination_airspaces)) return false;
-        hits.destination = true;
+bool Read_Bounds(std::int64_t record, Sides& sides) {
+    if (!Can_Read(record + 8, 16)) return false;
+    const Bounding_Box box{.south = Latitude_At(record + 8),
+                           .west = Longitude_At(record + 12),
+                           .north = Latitude_At(record + 16),
+                           .east = Longitude_At(record + 20)};
+    for (Side& side : sides) {
+        if (!Spans(box.south, side.airport.lat, box.north) ||
+            !Spans(box.west, side.airport.lon, box.east)) {
+            continue;
+        }
+        if (!Add_Airspace(box, side.table)) return false;
+        side.hit = true;
     }
     return true;
 }
@@ -97,65 +115,62 @@ bool Read_Bounds(std::int64_t record, Hits& hits) {
 /// Applies a change to the airspaces that the object has added last. Each grows by about `growth`
 /// bytes.
 template <typename Change>
-bool Change_Hit(Hits hits, std::int64_t growth, Change change) {
-    if (hits.departure) {
+bool Change_Hit(const Sides& sides, std::int64_t growth, Change change) {
+    for (const Side& side : sides) {
+        if (!side.hit) continue;
         if (!Charge(growth)) return false;
-        change(departure_airspaces.back());
-    }
-    if (hits.destination) {
-        if (!Charge(growth)) return false;
-        change(destination_airspaces.back());
+        change(side.table.back());
     }
     return true;
 }
 
-bool Add_Point(const Boundary_Point& point, Hits hits) {
-    return Change_Hit(hits, sizeof point,
+bool Add_Point(const Boundary_Point& point, const Sides& sides) {
+    return Change_Hit(sides, sizeof point,
                       [&point](Airspace_Info& airspace) { airspace.boundary.push_back(point); });
 }
 
 /// The last limits count. `pos` is that of the lower one, which the upper one follows.
-bool Set_Limits(std::int64_t pos, Hits hits) {
-    return Change_Hit(hits, 0, [pos](Airspace_Info& airspace) {
+bool Set_Limits(std::int64_t pos, const Sides& sides) {
+    return Change_Hit(sides, 0, [pos](Airspace_Info& airspace) {
         airspace.low_limit = Read_Long(pos);
         airspace.high_limit = Read_Long(pos + 4);
     });
 }
 
-bool Read_Point(std::int64_t record, Boundary_Kind kind, Hits hits) {
+bool Read_Point(std::int64_t record, Boundary_Kind kind, const Sides& sides) {
     if (!Can_Read(record + 12, 12)) return false;
     return Add_Point(
-        {.kind = kind, .lat = Latitude_At(record + 12), .lon = Longitude_At(record + 20)}, hits);
+        {.kind = kind, .lat = Latitude_At(record + 12), .lon = Longitude_At(record + 20)}, sides);
 }
 
-bool Read_Start(std::int64_t record, Hits hits) {
+bool Read_Start(std::int64_t record, const Sides& sides) {
     if (!Can_Read(record + 24, 8)) return false;
-    return Read_Point(record, Boundary_Kind::Point_Start, hits) && Set_Limits(record + 24, hits);
+    return Read_Point(record, Boundary_Kind::Point_Start, sides) && Set_Limits(record + 24, sides);
 }
 
-bool Read_Circle(std::int64_t record, Hits hits) {
+bool Read_Circle(std::int64_t record, const Sides& sides) {
     if (!Can_Read(record + 8, 16)) return false;
     return Add_Point({.kind = Boundary_Kind::Point_Circle, .radius = Read_Long(record + 8)},
-                     hits) &&
-           Set_Limits(record + 16, hits);
+                     sides) &&
+           Set_Limits(record + 16, sides);
 }
 
-bool Read_Airspace_Name(std::int64_t record, std::int32_t size, Hits hits) {
+bool Read_Airspace_Name(std::int64_t record, std::int32_t size, const Sides& sides) {
     if (!Can_Read(record + 8, size)) return false;
     const std::string text = Read_Text(record + 8, size);
-    return Change_Hit(hits, std::ssize(text) + 2, [&text](Airspace_Info& airspace) {
+    return Change_Hit(sides, std::ssize(text) + 2, [&text](Airspace_Info& airspace) {
         if (!airspace.name.empty()) airspace.name += "  ";
         airspace.name += text;
     });
 }
 
-bool Read_Frequency(std::int64_t record, std::int32_t size, Hits hits) {
+bool Read_Frequency(std::int64_t record, std::int32_t size, const Sides& sides) {
     const std::int64_t length = std::int64_t{size} - 8;
     if (!Can_Read(record + 8, 4) || !Can_Read(record + 16, length)) return false;
     const std::string frequency = Frequency_Text(Read_Long(record + 8)) + " Mhz  ";
     const std::string facility = Read_Text(record + 16, length);
     const std::int64_t growth = std::ssize(frequency) + std::ssize(facility);
-    return Change_Hit(hits, growth, [&](Airspace_Info& airspace) {
+    return Change_Hit(sides, growth, [&](Airspace_Info& airspace) {
         airspace.freq_text += frequency;
         airspace.facility_text = facility;
     });
@@ -166,82 +181,71 @@ bool Is_Known(std::int32_t type) {
     return type == Rec_Name || type == Rec_Bounds || type == Rec_Frequency;
 }
 
-/// Whether a whole head of a record stands there whose type is known and no bounding box.
-bool Is_Passed(std::int64_t record) {
-    if (!In_Image(record, 8)) return false;
-    const std::int32_t type = Read_Long(record);
-    return type != Rec_Bounds && Is_Known(type);
-}
-
-/// Type and size at the head of a record, as one number to compare.
-std::uint64_t Head_At(std::int64_t record) {
-    std::uint64_t head = 0;
-    std::memcpy(&head, bgl_bytes.data() + record, sizeof head);
-    return head;
-}
-
-/// Moves over the records of an object that encloses no airport so far, as nearly all do, up to the
-/// first one that has to be looked at.
-void Pass_To_Bounds(std::int64_t& record) {
-    while (Is_Passed(record)) {
-        const std::int32_t size = Read_Long(record + 4);
-        const std::uint64_t head = Head_At(record);
-        // An outline's records are mostly of one type and size. Stepping by a size that is known
-        // already, the processor need not wait for each record to tell where the next one stands.
-        do {
-            if (!Step_Over(record, size)) return;
-        } while (In_Image(record, 8) &&
-                 (Head_At(record) == head || (Is_Passed(record) && Read_Long(record + 4) == size)));
-    }
-}
-
-/// A record other than a bounding box, in an object that encloses an airport.
-bool Read_Content(std::int32_t type, std::int64_t record, std::int32_t size, Hits hits) {
+/// A record other than a bounding box, which counts in an object that encloses an airport.
+bool Read_Content(std::int32_t type, std::int64_t record, std::int32_t size, const Sides& sides) {
+    if (!sides[0].hit && !sides[1].hit) return true;
     switch (type) {
         case Rec_Name:
-            return Read_Airspace_Name(record, size, hits);
+            return Read_Airspace_Name(record, size, sides);
         case Rec_Center:
-            return Read_Point(record, Boundary_Kind::Point_Center, hits);
+            return Read_Point(record, Boundary_Kind::Point_Center, sides);
         case Rec_Start:
-            return Read_Start(record, hits);
+            return Read_Start(record, sides);
         case Rec_Line:
-            return Read_Point(record, Boundary_Kind::Point_Line, hits);
+            return Read_Point(record, Boundary_Kind::Point_Line, sides);
         case Rec_Arc_Cw:
-            return Read_Point(record, Boundary_Kind::Point_Arc_Cw, hits);
+            return Read_Point(record, Boundary_Kind::Point_Arc_Cw, sides);
         case Rec_Arc_Ccw:
-            return Read_Point(record, Boundary_Kind::Point_Arc_Ccw, hits);
+            return Read_Point(record, Boundary_Kind::Point_Arc_Ccw, sides);
         case Rec_Circle:
-            return Read_Circle(record, hits);
+            return Read_Circle(record, sides);
         case Rec_Frequency:
-            return Read_Frequency(record, size, hits);
+            return Read_Frequency(record, size, sides);
         default:
             return true;
     }
 }
 
-}  // namespace
-
-bool Walk_Airspace_Group(std::int64_t group_offset) {
-    return Walk_Containers(group_offset, Airspace_Object, Read_Airspace_Object);
+bool Read_Object(std::int64_t object) {
+    Sides sides{
+        {{departure_airport, departure_airspaces}, {destination_airport, destination_airspaces}}};
+    std::int64_t record = object + Entry_Head;
+    for (;;) {
+        if (!Can_Read(record, 4)) return false;
+        const std::int32_t type = Read_Long(record);
+        if (!Is_Known(type)) return true;
+        if (!Can_Read(record + 4, 4)) return false;
+        const std::int32_t size = Read_Long(record + 4);
+        const bool sound = type == Rec_Bounds ? Read_Bounds(record, sides)
+                                              : Read_Content(type, record, size, sides);
+        if (!sound || !Step_Over(record, size)) return false;
+    }
 }
 
-bool Read_Airspace_Object(std::int64_t object_offset) {
-    Hits hits;
-    std::int64_t record = object_offset + Entry_Head;
-    for (;;) {
-        if (!hits.Any()) Pass_To_Bounds(record);
-        if (!In_Image(record, 4)) return false;
-        const std::int32_t type = Read_Long(record);
-        if (!Is_Known(type)) return Charge(record - object_offset);
-        if (!In_Image(record + 4, 4)) return false;
-        const std::int32_t size = Read_Long(record + 4);
-        if (type == Rec_Bounds) {
-            if (!Read_Bounds(record, hits)) return false;
-        } else if (hits.Any() && !Read_Content(type, record, size, hits)) {
-            return false;
-        }
-        if (!Step_Over(record, size)) return false;
-    }
+/// A file's groups follow each other, so the last name tells whether the file is listed already.
+void List_Current_File() {
+    if (!airspace_files.empty() && airspace_files.back() == current_file) return;
+    airspace_files.push_back(current_file);
+    airspace_file_count = static_cast<std::int32_t>(airspace_files.size());
+}
+
+/// While the databases are built a group just puts its file on the list; in the search it is the
+/// objects in the group that count.
+bool Read_Group(std::int64_t group) {
+    const bool searching = !first_run && database_ready;
+    if (searching) return Walk_Airspace_Group(group + Entry_Head);
+    List_Current_File();
+    return true;
+}
+
+}  // namespace
+
+bool Walk_Airspace_Section(std::int64_t start) {
+    return Walk_Containers(start, Airspace_Group, Read_Group);
+}
+
+bool Walk_Airspace_Group(std::int64_t group_offset) {
+    return Walk_Containers(group_offset, Airspace_Object, Read_Object);
 }
 
 }  // namespace skerrand

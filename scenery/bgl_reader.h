@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
@@ -15,10 +14,6 @@
 /// it is about to read; a false answer is a fault of the file, which ends the walk of that whole
 /// file by a false result through all its callers. The primitives themselves check nothing.
 namespace skerrand {
-
-/// The mark of a BGL file with sections: the number 0x87654321 at this offset.
-inline constexpr std::size_t Magic_Offset = 0x76;
-inline constexpr std::array<std::uint8_t, 4> Bgl_Magic = {0x21, 0x43, 0x65, 0x87};
 
 /// A file of n bytes and one spare zero byte behind it: positions 0 to n may be read.
 extern platform::Bytes bgl_bytes;
@@ -86,5 +81,27 @@ std::string Read_Name(std::int64_t pos, std::int64_t length);
 /// others (so that negative zero is -2^-127, while positive zero is 0); infinities and what is no
 /// number give 0.
 double Bits_To_Single(std::int32_t bits);
+
+// What the stored numbers of records mean.
+
+/// Degrees, north positive, from metres of a meridian whose quadrant counts 10001750.
+inline double Latitude_Degrees(std::int32_t stored) {
+    return stored * 90.0 / 10001750.0;
+}
+
+/// Degrees, east positive, from 2^32 parts of the circle.
+inline double Longitude_Degrees(std::int32_t stored) {
+    return stored * 360.0 / 4294967296.0;
+}
+
+/// Degrees, -180 to 180, of a heading in 2^32 parts of the circle. `turn` is added to the stored
+/// angle in 65536 parts of the circle: -32768 gives the reciprocal, -360 to 0.
+inline double Heading_Degrees(std::int32_t stored, double turn = 0) {
+    return (stored / 65536.0 + turn) * 360 / 65536;
+}
+
+/// MHz in shortest decimal form ("121.3", "118") of a frequency in binary-coded decimal, in units
+/// of 100 Hz. Empty if a digit is above 9.
+std::string Frequency_Text(std::int32_t code);
 
 }  // namespace skerrand

@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "app/settings.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "scenery/blanks.h"
-#include "scenery/section_heads.h"
 
 namespace skerrand {
 
@@ -22,14 +21,24 @@ struct Area_Key {
 };
 
 constexpr std::array<Area_Key, 7> Area_Keys = {{
-    {"title", &Scenery_Area::title},
-    {"texture_id", &Scenery_Area::texture_id},
-    {"active", &Scenery_Area::active},
-    {"layer", &Scenery_Area::layer},
-    {"required", &Scenery_Area::required},
-    {"remote", &Scenery_Area::remote},
-    {"local", &Scenery_Area::local},
+    {"title=", &Scenery_Area::title},
+    {"texture_id=", &Scenery_Area::texture_id},
+    {"active=", &Scenery_Area::active},
+    {"layer=", &Scenery_Area::layer},
+    {"required=", &Scenery_Area::required},
+    {"remote=", &Scenery_Area::remote},
+    {"local=", &Scenery_Area::local},
 }};
+
+constexpr std::size_t Drive_Length = 2;  ///< a letter and a colon
+constexpr std::size_t Label_Start = 3;
+
+/// Tabs are no blanks.
+std::string_view Trim_Blanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
 
 /// The lines of the file that are not empty, each with CR LF behind it.
 std::string Join_Lines(std::string_view file) {
@@ -41,6 +50,13 @@ std::string Join_Lines(std::string_view file) {
         file.remove_prefix(std::min(end + 1, file.size()));
     }
     return joined;
+}
+
+/// A line heads a section if, once the blanks round it are gone, its first "[" is its first
+/// character and its first "]" its last.
+bool Is_Section_Head(std::string_view line) {
+    const std::string_view core = Trim_Blanks(line);
+    return !core.empty() && core.front() == '[' && core.find(']') == core.size() - 1;
 }
 
 std::vector<std::string_view> Section_Heads(std::string_view joined) {
@@ -55,39 +71,67 @@ std::vector<std::string_view> Section_Heads(std::string_view joined) {
 
 /// The section from `first` to just before `next`. With a head that stands twice `next` can lie
 /// ahead of `first`; the length is then the distance backwards, but the text still runs onwards.
-Section_Text Cut_Section(Section_Text whole, std::size_t first, std::size_t next) {
-    const std::size_t length = next > first ? next - first : first - next + 2;
-    return {whole.text.substr(first, length), whole.lower.substr(first, length)};
+std::string_view Cut_Section(std::string_view text, std::size_t first, std::size_t next) {
+    return text.substr(first, next > first ? next - first : first - next + 2);
 }
 
-Scenery_Area Read_Area(Section_Text section) {
+Scenery_Area Read_Area(std::string_view section) {
+    const std::string lower = platform::Lower_Case(section);
     Scenery_Area area;
-    for (const Area_Key& entry : Area_Keys)
-        area.*entry.field = Get_Key(section, entry.key);
+    for (const Area_Key& entry : Area_Keys) {
+        const std::size_t found = lower.find(entry.key);
+        if (found == std::string::npos) continue;
+        const std::string_view value = section.substr(found + entry.key.size());
+        area.*entry.field = Trim_Blanks(value.substr(0, value.find(Line_End)));
+    }
     return area;
+}
+
+std::string Replace_All(std::string_view text, std::string_view old, std::string_view replacement) {
+    std::string result;
+    std::size_t from = 0;
+    for (std::size_t at; (at = text.find(old, from)) != std::string_view::npos;) {
+        result.append(text.substr(from, at - from)).append(replacement);
+        from = at + old.size();
+    }
+    return result.append(text.substr(from));
+}
+
+/// A value names either the folder of the BGL files or the one that holds it.
+std::string With_Scenery_Folder(std::string_view value) {
+    std::string local(Trim_Blanks(value));
+    std::replace(local.begin(), local.end(), '/', '\\');
+    const std::string lower = platform::Lower_Case(local);
+    if (!lower.ends_with("\\scenery") && lower != "scenery") local += "\\scenery";
+    return local;
+}
+
+std::string On_Mapped_Drive(std::string_view local, std::string_view entry) {
+    const std::string label =
+        platform::Lower_Case(entry.substr(std::min(Label_Start, entry.size())));
+    if (label.empty()) return std::string(local);
+    return Replace_All(platform::Lower_Case(local), label, entry.substr(0, Drive_Length));
+}
+
+std::string Resolve(const std::string& value, std::span<const std::string> drive_entries) {
+    std::string local = With_Scenery_Folder(value);
+    for (const std::string& entry : drive_entries)
+        local = On_Mapped_Drive(local, entry);
+    if (!platform::Folder_Exists(local)) local = fs_root + "\\" + local;
+    local = platform::Lower_Case(local);
+    return platform::Folder_Exists(local) ? local : std::string();
 }
 
 }  // namespace
 
-std::string Get_Key(Section_Text section, std::string_view key) {
-    const std::string searched = std::string(key) + "=";
-    const std::size_t found = section.lower.find(searched);
-    if (found == std::string_view::npos) return {};
-    const std::size_t start = found + searched.size();
-    const std::size_t end = std::min(section.text.find(Line_End, start), section.text.size());
-    return std::string(Trim_Blanks(section.text.substr(start, end - start)));
-}
-
 std::vector<Scenery_Area> Parse_Scenery_Cfg(std::string_view file) {
     const std::string text = Join_Lines(file);
-    const std::string lower = platform::Lower_Case(text);
     const std::vector<std::string_view> heads = Section_Heads(text);
-    const std::vector<std::size_t> places = First_Places(text, heads);
     std::vector<Scenery_Area> areas;
     for (std::size_t i = 0; i < heads.size() && areas.size() < Most_Areas; ++i) {
         if (platform::Lower_Case(heads[i]).find("[area.") == std::string::npos) continue;
-        const std::size_t next = i + 1 < heads.size() ? places[i + 1] : text.size();
-        areas.push_back(Read_Area(Cut_Section({text, lower}, places[i], next)));
+        const std::size_t next = i + 1 < heads.size() ? text.find(heads[i + 1]) : text.size();
+        areas.push_back(Read_Area(Cut_Section(text, text.find(heads[i]), next)));
     }
     return areas;
 }
@@ -97,6 +141,12 @@ bool Read_Scenery_Cfg(std::string_view path) {
     const bool read = platform::Read_File(path, bytes);
     scenery_areas = Parse_Scenery_Cfg(std::string(bytes.begin(), bytes.end()));
     return read;
+}
+
+void Resolve_Local_Paths(std::span<const std::string> drive_entries) {
+    for (Scenery_Area& area : scenery_areas) {
+        if (!area.local.empty()) area.local = Resolve(area.local, drive_entries);
+    }
 }
 
 }  // namespace skerrand

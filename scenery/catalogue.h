@@ -36,23 +36,14 @@ extern std::vector<Scenery_Area> scenery_areas;  ///< in the order of the file
 ///
 /// The text of a section starts where its head line *first* stands in the file and reaches to where
 /// the next head first stands, so that of two sections with the same head both get the first one's
-/// text.
+/// text. A field is what stands behind the first "KEY=" in that text, in any case of the letters,
+/// up to the end of the line. It is a plain search: a key is found in a longer name that ends in it
+/// too, and "KEY =" is not found.
 std::vector<Scenery_Area> Parse_Scenery_Cfg(std::string_view file);
 
 /// Reads the file of that path into `scenery_areas`. False if it cannot be read; the table is then
 /// empty.
 bool Read_Scenery_Cfg(std::string_view path);
-
-/// A stretch of text beside its lower-case form, of the same length.
-struct Section_Text {
-    std::string_view text;
-    std::string_view lower;
-};
-
-/// The value behind the first "KEY=" in the section, in any case of the letters, up to the end of
-/// the line and without the blanks round it; empty if there is none. It is a plain search: a key is
-/// found in a longer name that ends in it too, and "KEY =" is not found. `key` is lower case.
-std::string Get_Key(Section_Text section, std::string_view key);
 
 /// Turns `local` of every area into its folder, absolute as given, else below `fs_root`; empties it
 /// if no such folder exists.

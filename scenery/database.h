@@ -8,20 +8,33 @@
 #include "platform/files.h"
 #include "scenery/airport_info.h"
 
-/// The two database files of the program: the airport table, and the list of the BGL files that
-/// hold airspaces. Both are runs of records without a header; how many they hold is told by the
-/// counts that the settings file keeps. Behind the records in use each file carries one empty one.
+/// The tables of the database and their two files: the airports, and the list of the BGL files that
+/// hold airspaces. The tables stand from the load of the picker until a pick releases them.
+///
+/// Both files are runs of records without a header; how many they hold is told by the counts that
+/// the settings file keeps. Behind the records in use each file carries one empty one.
 namespace skerrand {
+
+extern std::vector<Airport_Info> airport_table;  ///< in the order of the scan
+extern std::int32_t airport_count;  ///< stays when the table is freed, to read it back by
+
+extern std::vector<std::string> airspace_files;  ///< lower-case paths of files with airspaces
+extern std::int32_t airspace_file_count;         ///< stays too
+
+/// Free a table; its count keeps its value.
+void Release_Airport_Table();
+void Release_Airspace_Files();
 
 /// The bytes of the file that holds these airports. Texts are cut to 65535 bytes.
 platform::Bytes Airport_Table_Bytes(std::span<const Airport_Info> airports);
 
 /// Reads `count` airports and the record behind them from the bytes of the file. The last record
-/// may be absent if the bytes end right where it would start, and whatever stands behind it is
-/// passed over: a count that is one too low or too high is not noticed.
+/// may be absent if the bytes end right where it would start, so that a count that is one too high
+/// is not noticed.
 ///
-/// False, with `airports` empty, for a negative count, or if a record reaches beyond the bytes, an
-/// array's size does not fit its count, or a coordinate is no finite number.
+/// False, with `airports` empty, for a negative count, or if bytes follow the last record, a record
+/// reaches beyond the bytes, an array's size does not fit its count, or a coordinate is no finite
+/// number.
 bool Parse_Airport_Table(std::span<const std::uint8_t> bytes, std::int32_t count,
                          std::vector<Airport_Info>& airports);
 

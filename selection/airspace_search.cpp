@@ -1,19 +1,17 @@
 #include "selection/airspace_search.h"
 
-#include <algorithm>
 #include <cstdint>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "app/messages.h"
-#include "app/settings.h"
 #include "chart/current_chart.h"
-#include "platform/controls.h"
+#include "platform/code_page.h"
 #include "platform/files.h"
 #include "scenery/bgl_reader.h"
 #include "scenery/bgl_walk.h"
-#include "scenery/tables.h"
-#include "selection/form3.h"
+#include "scenery/database.h"
 #include "selection/picks.h"
 
 namespace skerrand {
@@ -27,36 +25,31 @@ constexpr std::int32_t Class_C_Top = 4000;
 constexpr std::int32_t Tracon_Top = 10000;  // feet
 constexpr std::int32_t Tracon_Radius = 20;  // nautical miles
 
-/// The listed files that could not be read.
-struct Unread_Files {
-    int count = 0;
-    std::string first;
-};
-
-bool Has_Magic() {
-    return bgl_bytes.size() >= Magic_Offset + Bgl_Magic.size() &&
-           std::equal(Bgl_Magic.begin(), Bgl_Magic.end(), bgl_bytes.begin() + Magic_Offset);
-}
-
-void Show_Progress(int done, int files) {
-    platform::Set_Progress(form3::ProgressBar1, {.value = done, .minimum = 0, .maximum = files});
-    platform::Repaint(form3::ProgressBar1);
-}
-
-/// One file after the other goes through the same buffer.
-Unread_Files Search_Files() {
+/// One file after the other goes through the same buffer. A path of the list is in lower case, so
+/// it stands for each file of that name in any case; those without airspaces cost just their
+/// reading.
+Unread_Files Search_Files(void (*show_progress)(int done, int files)) {
     Unread_Files unread;
+    std::optional<std::string> folder;
+    std::multimap<std::string, std::string> names;  // of the files in it, by their lower case
     const int files = static_cast<int>(airspace_files.size());
-    Show_Progress(0, files);
+    show_progress(0, files);
     for (int done = 0; done < files; ++done) {
-        current_file = airspace_files[static_cast<std::size_t>(done)];
-        if (!platform::Read_File(current_file, bgl_bytes, 1)) {
-            if (unread.count++ == 0) unread.first = current_file;
-        } else if (Has_Magic()) {
-            Walk_Bgl();
+        const std::string& listed = airspace_files[static_cast<std::size_t>(done)];
+        const std::size_t name = listed.find_last_of("\\/") + 1;
+        if (folder != listed.substr(0, name)) {
+            folder = listed.substr(0, name);
+            names.clear();
+            const auto found = platform::File_Names(*folder, Bgl_Ending);
+            for (const std::string& file : found.value_or(std::vector<std::string>()))
+                names.emplace(platform::Lower_Case(file), file);
         }
-        Show_Progress(done + 1, files);
-        platform::Repaint(form3::window);
+        const auto [first, last] = names.equal_range(listed.substr(name));
+        bool sound = first != last;
+        for (auto file = first; file != last; ++file)
+            sound = Walk_File(*folder + file->second) && sound;
+        if (!sound && unread.count++ == 0) unread.first = listed;
+        show_progress(done + 1, files);
     }
     platform::Bytes().swap(bgl_bytes);
     return unread;
@@ -97,28 +90,17 @@ void Complete(std::vector<Airspace_Info>& airspaces, const Airport_Info& airport
     }
 }
 
-void Tell_Unread(const Unread_Files& unread, std::size_t listed) {
-    Show_Message(std::to_string(unread.count) + " of the " + std::to_string(listed) +
-                     " scenery files with airspaces cannot be read, so the charts lack their "
-                     "airspaces. The first of them is\r\n" +
-                     unread.first + "\r\nIf your scenery has changed, end this program, delete " +
-                     Settings_File + ", " + Airports_File + " and " + Airspaces_File + " in " +
-                     app_path + " and start it again; it will then create its database anew.",
-                 platform::Icon::Exclamation);
-}
-
 }  // namespace
 
-void Search_Airspaces() {
+Unread_Files Search_Airspaces(void (*show_progress)(int done, int files)) {
     for (auto* table : {&departure_airspaces, &destination_airspaces, &current_airspaces}) {
         std::vector<Airspace_Info>().swap(*table);
     }
-    const std::size_t listed = airspace_files.size();
-    const Unread_Files unread = Search_Files();
+    const Unread_Files unread = Search_Files(show_progress);
     Release_Airspace_Files();
     Complete(departure_airspaces, departure_airport);
     Complete(destination_airspaces, destination_airport);
-    if (unread.count > 0) Tell_Unread(unread, listed);
+    return unread;
 }
 
 }  // namespace skerrand

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "scenery/scan.h"
+
 /// The search for the airspaces of the two picked airports, and the labels that it gives them.
 namespace skerrand {
 
@@ -19,9 +21,8 @@ inline constexpr std::string_view Label_Tracon = "TRACON (Departure/Approach)";
 /// in hand.
 ///
 /// Expects the picked airports, and the database ready in a run that is not the first, so that the
-/// walk of a file searches. Shows its progress in the picker. Files that are no BGL files are
-/// passed over in silence; those that cannot be read are, too, but one message at the end tells of
-/// them.
-void Search_Airspaces();
+/// walk of a file searches. `show_progress` is called once ahead of the files and once behind each.
+/// Files that are no BGL files are passed over; those that cannot be read are the answer.
+Unread_Files Search_Airspaces(void (*show_progress)(int done, int files) = [](int, int) {});
 
 }  // namespace skerrand

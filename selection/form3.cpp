@@ -1,11 +1,17 @@
 #include "selection/form3.h"
 
+#include <string>
+
+#include "app/messages.h"
+#include "app/settings.h"
+#include "chart/form4.h"
 #include "platform/controls.h"
 #include "platform/program.h"
 #include "platform/timers.h"
-#include "scenery/scan.h"
-#include "scenery/tables.h"
-#include "selection/picker.h"
+#include "scenery/database.h"
+#include "selection/airspace_search.h"
+#include "selection/form3_load.h"
+#include "selection/picks.h"
 
 namespace skerrand::form3 {
 
@@ -18,6 +24,7 @@ using enum platform::Control_Kind;
 void Form_Load();
 void Form_Unload();
 void Command2_Click();
+void Command3_Click();
 
 constexpr const char* Pick_Hint = "[Type and select an airport from the list]";
 
@@ -57,7 +64,7 @@ constexpr Control controls[] = {
      .kind = Button,
      .at = {1560, 3360, 1575, 495},
      .caption = "GET AIRPORT",
-     .handler = Get_Airports},
+     .handler = Command3_Click},
     {.name = "Command2",
      .kind = Button,
      .at = {3240, 3360, 1695, 495},
@@ -106,6 +113,41 @@ void Command2_Click() {
     Set_Status("Please wait...");
     Release_Airport_Table();
     platform::End_Program();
+}
+
+void Show_Search(int done, int files) {
+    platform::Set_Progress(ProgressBar1, {.value = done, .minimum = 0, .maximum = files});
+    platform::Repaint(ProgressBar1);
+    if (done > 0) platform::Repaint(window);
+}
+
+void Tell_Unread(const Unread_Files& unread) {
+    Show_Message(std::to_string(unread.count) + " of the " + std::to_string(airspace_file_count) +
+                     " scenery files with airspaces cannot be read, so the charts lack their "
+                     "airspaces. The first of them is\r\n" +
+                     unread.first + "\r\nIf your scenery has changed, end this program, delete " +
+                     Settings_File + ", " + Airports_File + " and " + Airspaces_File + " in " +
+                     app_path + " and start it again; it will then create its database anew.",
+                 platform::Icon::Exclamation);
+}
+
+/// "GET AIRPORT" goes on to the chart, once an entry is picked in both lists.
+void Command3_Click() {
+    const int departure = platform::Selected_Index(Combo1);
+    const int destination = platform::Selected_Index(Combo2);
+    if (departure < 0 || destination < 0) return;
+
+    Set_Input_Enabled(false);
+    Set_Status("Getting Airports Info...");
+    Take_Picks(platform::Entry_Text(Combo1, departure), platform::Entry_Text(Combo2, destination));
+
+    Set_Status("Looking for Airspaces...");
+    const Unread_Files unread = Search_Airspaces(Show_Search);
+    if (unread.count > 0) Tell_Unread(unread);
+
+    Set_Status("Loading Chart Window...");
+    platform::Show(form4::window);
+    platform::Unload(window);
 }
 
 void Form_Unload() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "scenery/airport_info.h"
@@ -14,5 +16,13 @@ extern Airport_Info destination_airport;
 
 extern std::vector<Airspace_Info> departure_airspaces;
 extern std::vector<Airspace_Info> destination_airspaces;
+
+/// The text by which the lists name an airport: its name, then its ICAO id in brackets.
+std::string List_Entry(const Airport_Info& airport);
+
+/// Copies the airports with these list entries out of `airport_table`, and releases it. Nothing
+/// distinguishes equal entries, and of those the last one counts; what matches none stays as it
+/// was.
+void Take_Picks(std::string_view departure, std::string_view destination);
 
 }  // namespace skerrand

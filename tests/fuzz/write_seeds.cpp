@@ -17,8 +17,9 @@ int main(int count, char** arguments) {
     Load(Sample());
     Walk_Bgl();
     const Bytes two = {2, 0};
-    const Bytes one_list = Taxi({Points({Point(1, 1, 1)}), Longs({2, 20})});
-    const Bytes chain = Taxi({Paths({Path(0, 0, 0, 0), Path(1, 0, 0, 1)}), Names({"1", "2", "0"})});
+    const Bytes one_list = Taxi({List(12, {Point(1, 1, 1)}), Longs({2, 20})});
+    const Bytes chain =
+        Taxi({List(32, {Path(0, 0, 0, 0), Path(1, 0, 0, 1)}), Names({"1", "2", "0"})});
     const std::pair<const char*, Bytes> seeds[] = {
         {"airports/none", {0, 0}},
         {"airports/two", Join({two, Airport_Table_Bytes(std::span(airport_table).first(2))})},

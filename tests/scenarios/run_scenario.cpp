@@ -1,11 +1,11 @@
 // Runs a scenario: a text that tells what to say to the program and what it has to answer.
 //
-//     run_scenario SKERRAND_HEADLESS MAKE_WORLD FILE.scenario
+//     run_scenario SKERRAND_HEADLESS FILE.scenario
 //
 // Each scenario gets a fresh folder of its own, with a working folder for the program in it.
 //
 //     # a remark
-//     ! make_world ${world}         a step with files, see world_steps.h
+//     ! make_world ${world}         a shell command, with the build's programs and steps.sh at hand
 //     > get Form2.caption           a command to the program
 //     Settings                      the lines of its answer
 //     ok                            may be left out: an answer that tells no end ends with ok
@@ -22,16 +22,16 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <span>
-#include <sstream>
+#include <string>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
-
-#include "tests/scenarios/world_steps.h"
+#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -41,43 +41,38 @@ using Lines = std::vector<std::string>;
 
 struct Scenario {
     std::string program;
-    fs::path make_world, folder;
-    fs::path scratch = {};
+    fs::path folder;     ///< of the scenario
+    fs::path scratch;    ///< its own
     pid_t process = -1;  ///< the program, if it runs
-    FILE* to = nullptr;
-    FILE* from = nullptr;
+    FILE* talk = nullptr;
     std::string place = {};  ///< file and line of what is done
     std::string command = {};
     Lines expected = {};  ///< its answer
-    int failures = 0;
+    bool failed = false;
 };
 
 void Report(Scenario& scenario, const std::string& what) {
-    ++scenario.failures;
+    scenario.failed = true;
     std::cout << scenario.place << ": " << what << "\n";
 }
 
 void Start_Program(Scenario& scenario) {
-    int input[2] = {-1, -1};
-    int output[2] = {-1, -1};
-    if (pipe2(input, O_CLOEXEC) != 0 || pipe2(output, O_CLOEXEC) != 0) return;
+    int ends[2] = {-1, -1};
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return;
     scenario.process = fork();
     if (scenario.process == 0) {
-        dup2(input[0], STDIN_FILENO);
-        dup2(output[1], STDOUT_FILENO);
+        dup2(ends[1], STDIN_FILENO);
+        dup2(ends[1], STDOUT_FILENO);
         execl(scenario.program.c_str(), scenario.program.c_str(), nullptr);
         std::_Exit(127);
     }
-    close(input[0]);
-    close(output[1]);
-    scenario.to = fdopen(input[1], "w");
-    scenario.from = fdopen(output[0], "r");
+    close(ends[1]);
+    scenario.talk = fdopen(ends[0], "r");
 }
 
 void End_Program(Scenario& scenario) {
     if (scenario.process < 0) return;
-    std::fclose(scenario.to);
-    std::fclose(scenario.from);
+    std::fclose(scenario.talk);
     int status = 0;
     waitpid(std::exchange(scenario.process, -1), &status, 0);
     if (status != 0) Report(scenario, "the program failed");
@@ -101,10 +96,9 @@ bool Read_Answer(FILE* from, Lines& answer) {
     return false;
 }
 
-bool Line_Matches(const std::string& expected, const std::string& line) {
+bool Line_Matches(std::string_view expected, std::string_view line) {
     if (expected == line || (expected == "\"\"" && line.empty())) return true;
-    const std::string_view start = expected;
-    return start.ends_with("...") && line.starts_with(start.substr(0, start.size() - 3));
+    return expected.ends_with("...") && line.starts_with(expected.substr(0, expected.size() - 3));
 }
 
 bool Matches(std::span<const std::string> expected, std::span<const std::string> answer) {
@@ -116,52 +110,40 @@ bool Matches(std::span<const std::string> expected, std::span<const std::string>
     return Matches(any_lines ? expected : expected.subspan(1), answer.subspan(1));
 }
 
-/// The first lines of both from where they differ.
+/// The first line of both that differs.
 std::string Difference(const Lines& expected, const Lines& answer) {
-    constexpr std::size_t most = 12;
-    std::size_t same = 0;
-    while (same < std::min(expected.size(), answer.size()) &&
-           Line_Matches(expected[same], answer[same])) {
-        ++same;
-    }
-    std::string text;
-    for (const auto& [mark, lines] : {std::pair("\n  - ", &expected), {"\n  + ", &answer}}) {
-        for (std::size_t i = same; i < std::min(lines->size(), same + most); ++i)
-            text += mark + (*lines)[i];
-    }
-    return text;
+    std::size_t at = 0;
+    while (at < std::min(expected.size(), answer.size()) && Line_Matches(expected[at], answer[at]))
+        ++at;
+    const auto line = [at](const Lines& lines) { return at < lines.size() ? lines[at] : "(none)"; };
+    return "  - " + line(expected) + "\n  + " + line(answer);
 }
 
 void Give_Command(Scenario& scenario) {
-    const std::string& command = scenario.command;
+    const std::string line = scenario.command + "\n";
     if (scenario.process < 0) Start_Program(scenario);
-    std::fprintf(scenario.to, "%s\n", command.c_str());
-    std::fflush(scenario.to);
+    send(fileno(scenario.talk), line.data(), line.size(), MSG_NOSIGNAL);
     Lines answer;
-    const bool answered = Read_Answer(scenario.from, answer);
-    if (!answered) Report(scenario, "> " + command + "\n  the program is gone");
-    if (answered && !Matches(scenario.expected, answer)) {
-        Report(scenario, "> " + command + Difference(scenario.expected, answer));
+    const bool answered = Read_Answer(scenario.talk, answer);
+    if (!answered || !Matches(scenario.expected, answer)) {
+        Report(scenario, "> " + line + Difference(scenario.expected, answer) +
+                             (answered ? "" : "\n  the program is gone"));
     }
-    if (!answered || command == "quit") End_Program(scenario);
+    if (!answered || scenario.command == "quit") End_Program(scenario);
 }
 
 void Play(Scenario& scenario, const std::string& file);
 
 void Do_Step(Scenario& scenario, const std::string& step) {
-    std::istringstream stream(step);
-    Lines words;
-    for (std::string word; std::getline(stream, word, ' ');)
-        words.push_back(word);
-    if (words[0] == "restart") return End_Program(scenario);
-    if (words[0] == "play" && words.size() == 2) return Play(scenario, words[1]);
-    if (words[0] == "again" && words.size() == 2) {
-        for (int times = std::atoi(words[1].c_str()); times > 0; --times)
+    if (step == "restart") return End_Program(scenario);
+    if (step.starts_with("play ")) return Play(scenario, step.substr(5));
+    if (step.starts_with("again ")) {
+        for (int times = std::stoi(step.substr(6)); times > 0; --times)
             Give_Command(scenario);
         return;
     }
-    const std::string problem = Do_File_Step(words, scenario.make_world);
-    if (!problem.empty()) Report(scenario, "! " + step + ": " + problem);
+    const std::string prelude = ". '" + (scenario.folder / "steps.sh").string() + "'\n";
+    if (std::system((prelude + step).c_str()) != 0) Report(scenario, "it is not so: " + step);
 }
 
 /// A command or a step, and the lines behind it.
@@ -211,22 +193,20 @@ void Play(Scenario& scenario, const std::string& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::string scratch = (fs::temp_directory_path() / "skerrand_XXXXXX").string();
-    if (argc != 4 || mkdtemp(scratch.data()) == nullptr) {
-        std::cerr << "run_scenario SKERRAND_HEADLESS MAKE_WORLD FILE.scenario\n";
-        return 2;
-    }
-    std::signal(SIGPIPE, SIG_IGN);
-    const fs::path file = fs::absolute(argv[3]);
-    Scenario scenario{.program = fs::absolute(argv[1]),
-                      .make_world = fs::absolute(argv[2]),
+    if (argc != 3) return 2;
+    const fs::path program = fs::absolute(argv[1]);
+    const fs::path file = fs::absolute(argv[2]);
+    // In lower case, as the program's list of files is.
+    Scenario scenario{.program = program,
                       .folder = file.parent_path(),
-                      .scratch = fs::canonical(scratch)};
-    fs::create_directory(scenario.scratch / "work");
+                      .scratch = fs::canonical(fs::temp_directory_path()) /
+                                 ("skerrand_" + std::to_string(getpid()))};
+    setenv("PATH", (program.parent_path().string() + ":" + std::getenv("PATH")).c_str(), 1);
+    fs::create_directories(scenario.scratch / "work");
     fs::current_path(scenario.scratch / "work");
     Play(scenario, file.filename());
     End_Program(scenario);
     fs::current_path("/");
     fs::remove_all(scenario.scratch);
-    return scenario.failures == 0 ? 0 : 1;
+    return scenario.failed ? 1 : 0;
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "scenery/magnetic.h"
+#include "scenery/taxi_reader.h"
 #include "tests/scenery/bgl_builder.h"
 
 namespace skerrand {
@@ -15,7 +16,7 @@ constexpr std::int32_t Lon_90 = 0x40000000;
 
 /// Reads the records as the block of an airport that ends with a record of an unknown type.
 Airport_Info Read(const Bytes& records, bool sound = true) {
-    Load(Join({Longs({1, 0, 1, 0}), records, Longs({0x10007})}));
+    Load(Join({Longs({1, 0, 1, 0}), records, Longs({0x10007, 0})}));
     Airport_Info airport;
     EXPECT_EQ(Read_Airport(0, airport), sound);
     return airport;
@@ -35,34 +36,25 @@ TEST(Airport_Reader, Head_Records_Overwrite_Or_Stay) {
     EXPECT_EQ(airport.tower_freq + ' ' + airport.clearance_freq + ' ' + airport.approach_freq +
                   ' ' + airport.departure_freq + ' ' + airport.center_freq,
               "118.1 118.2 118.3 118.4 118.5");
-}
-
-TEST(Airport_Reader, Fault_Loses_Or_Halves_A_Record) {
-    const Bytes tails[] = {Record(0x10006, Text("WXYZ"), 999), Record(0x10006, {}, 0x7FFFFFFF),
-                           Record(0x10003, {}, -8), Record(0x10003, {}, -2000000000)};
-    for (const Bytes& tail : tails)
-        EXPECT_EQ(Read(Join({Icao("ABCD"), tail}), false).icao_id, "ABCD");
-    EXPECT_EQ(Read(Join({Icao("ABCD"), Icao("")})).icao_id, "");
+    const Bytes faults[] = {Record(0x10006, Text("WXYZ"), 999), Record(0x10006, {}, INT32_MAX),
+                            Record(0x10003, {}, -8), Record(0x10003, {}, -2000000000)};
+    for (const Bytes& fault : faults)
+        EXPECT_EQ(Read(Join({Icao("ABCD"), fault}), false).icao_id, "ABCD");
 }
 
 TEST(Airport_Reader, Runway_Identifiers_Wrong) {
-    const struct {
-        std::int32_t number, designator;
-        const char* id_1;
-        const char* id_2;
-    } cases[] = {{37, 0, "", ""},      {36, 1, "36L", "18R"}, {18, 0, "18", "36"},
-                 {9, 2, "9R", "27L"},  {19, 3, "19C", "1C"},  {1, 4, "1H", "19H"},
-                 {5, 5, "1H", "19H"},  {5, -1, "1H", "19H"},  {99, 1, "1H", "19H"},
-                 {-3, 1, "-3L", "15R"}};
+    const std::tuple<std::int32_t, std::int32_t, const char*> cases[] = {
+        {37, 0, "/"},      {36, 1, "36L/18R"}, {18, 0, "18/36"}, {9, 2, "9R/27L"},
+        {19, 3, "19C/1C"}, {1, 4, "1H/19H"},   {5, 5, "1H/19H"}, {5, -1, "1H/19H"},
+        {99, 1, "1H/19H"}, {-3, 1, "-3L/15R"},
+    };
     Bytes records;
-    for (const auto& c : cases)
-        records = Join({records, Runway({.designator = c.designator, .number = c.number})});
+    for (const auto& [number, designator, ids] : cases)
+        records = Join({records, Runway({.designator = designator, .number = number})});
     const Airport_Info airport = Read(records);
     ASSERT_EQ(airport.runways.size(), std::size(cases));
-    for (std::size_t i = 0; i < std::size(cases); ++i) {
-        EXPECT_EQ(airport.runways[i].id_1, cases[i].id_1) << i;
-        EXPECT_EQ(airport.runways[i].id_2, cases[i].id_2) << i;
-    }
+    for (std::size_t i = 0; i < std::size(cases); ++i)
+        EXPECT_EQ(airport.runways[i].id_1 + '/' + airport.runways[i].id_2, std::get<2>(cases[i]));
 }
 
 TEST(Airport_Reader, Runway_Ends_Misplaced) {
@@ -75,19 +67,16 @@ TEST(Airport_Reader, Runway_Ends_Misplaced) {
         EXPECT_NEAR(runway.lon_2 - runway.lon_1, drawn_m * 360 / 40007000, 1e-12);
         EXPECT_NEAR(runway.lon_1 + runway.lon_2, 180, 1e-12);
         EXPECT_NEAR(runway.lat_1, 0, 1e-12);
-        EXPECT_EQ(runway.mag_heading_2, 270);
         EXPECT_EQ(runway.length_ft, length_ft);
     }
     // At 45 degrees a degree of longitude is shorter.
     const double span = 854.4 * 360 / 40007000 * 1.41421356;
     const Airport_Info airport = Read(Join({Runway({Lat_45, 0x7FFFFFFF, 100, -Lon_90, 3000}),
                                             Runway({Lat_45, -0x7FFFFFFF, 100, Lon_90, 3000})}));
-    const Runway_Info& date_line = airport.runways.at(0);
-    EXPECT_NEAR(date_line.lon_1, -180 + span / 2, 1e-6);
-    EXPECT_NEAR(date_line.lon_2, 180 - span / 2, 1e-6);
+    EXPECT_NEAR(airport.runways.at(0).lon_1, -180 + span / 2, 1e-6);
+    EXPECT_NEAR(airport.runways.at(0).lon_2, 180 - span / 2, 1e-6);
     EXPECT_NEAR(airport.runways.at(1).lon_1, 180 - span / 2, 1e-6);
-    EXPECT_EQ(date_line.altitude_ft, 328);
-    EXPECT_EQ(date_line.mag_heading_1, 270);
+    EXPECT_EQ(airport.runways.at(0).altitude_ft, 328);
 }
 
 TEST(Airport_Reader, Heading_By_The_Variation_Of_Another_Place) {
@@ -96,40 +85,119 @@ TEST(Airport_Reader, Heading_By_The_Variation_Of_Another_Place) {
     magnetic_table[90 + 181 * 91] = 10 * 65536 / 360 + 1;
     const Bytes runway = Runway({.lon = Lon_90_5, .heading = Lon_90});
     const Airport_Info airport = Read(Join({runway, Aid(0, Lon_90_5 + 9, Lon_90, 0, 4, "")}));
+    magnetic_table.fill(0);
     EXPECT_EQ(airport.runways.at(0).mag_heading_1, 90);
     EXPECT_EQ(airport.runways.at(0).mag_heading_2, 260);
     EXPECT_EQ(airport.ils.at(0).mag_course, 80) << "at the transmitter, not at the end it serves";
 }
 
-TEST(Airport_Reader, Beam_At_The_Wrong_End) {
-    magnetic_table.fill(0);
+TEST(Airport_Reader, Beam_At_The_Wrong_End_Or_Of_No_Runway) {
     constexpr std::int32_t Degree = 0x7FFFFFFF / 180;
     const auto ils = [](std::int32_t course, std::string_view name = "ILS") {
         return Aid(Lat_45, Lon_90, course, 0x01103000, 4, name);
     };
-    const Airport_Info airport = Read(Join({
-        ils(Lon_90, "not behind a runway"),
-        Runway({.heading = Lon_90}),
-        ils(Lon_90 + Degree / 3),
-        Aid(0, 0, Lon_90, 0, 3, "no ILS"),
-        ils(-Lon_90 - Degree / 3),
-        ils(Lon_90 + Degree),
-        Com(1, 0),
-        ils(Lon_90, "not behind a runway"),
-        Runway({.heading = -Lon_90}),
-        ils(-Lon_90),
-        ils(Lon_90),
-    }));
+    const Airport_Info airport = Read(Join(
+        {ils(Lon_90, "ahead of any runway"), Runway({.heading = Lon_90}), ils(Lon_90 + Degree / 3),
+         Aid(0, 0, Lon_90, 0, 3, "no ILS"), ils(-Lon_90 - Degree / 3), ils(Lon_90 + Degree),
+         Com(1, 0), ils(Lon_90, "behind another record"), Runway({.heading = -Lon_90}),
+         ils(-Lon_90), ils(Lon_90)}));
     ASSERT_EQ(airport.ils.size(), 5U);
     const Runway_Info& east = airport.runways.at(0);
-    const Runway_Info& west = airport.runways.at(1);
     // The transmitter stays in place off the runway's line, and against a negative heading.
-    const double lons[] = {east.lon_1, east.lon_2, 90, west.lon_1, 90};
+    const double lons[] = {east.lon_1, east.lon_2, 90, airport.runways.at(1).lon_1, 90};
     const std::int16_t courses[] = {90, 270, 91, 270, 90};
     for (std::size_t i = 0; i < std::size(lons); ++i) {
         EXPECT_EQ(airport.ils[i].lon, lons[i]) << i;
         EXPECT_EQ(airport.ils[i].mag_course, courses[i]) << i;
         EXPECT_EQ(airport.ils[i].name + airport.ils[i].freq, "ILS110.3");
+    }
+}
+
+std::string Path_Names(const Airport_Info& airport) {
+    std::string names;
+    for (const Taxi_Path& path : airport.taxi_paths)
+        names += path.name + '|';
+    return names;
+}
+
+TEST(Taxi_Reader, Lists_Read_Or_Replaced_Wrongly) {
+    const Bytes points = List(12, {Point(7, 0, 0), Point(1, 100, -0.0F)});
+    const Bytes parkings = List(20, {Parking(-1852, 1852, 30.48F, 0x800605)});
+    const Bytes paths = List(32, {Path(0, 0, 1, 1), Path(1, 1, 0, 0), Path(2, 3, 4, 1),
+                                  Path(1, 0, 0, 1), Path(1, 0, 0, 2), Path(9, 0, 0, -1)});
+    const Airport_Info airport =
+        Read(Join({Position(5000875, 333), Runway({.designator = 1}),
+                   Taxi({points, parkings, paths, Longs({0, 12}), Longs({-5, 20}),
+                         Names({"X", "A"}), List(12, {Point(1, 5, 5)})}),
+                   Taxi({List(12, {Point(3, 0, -1852)}), Longs({1, 16, 0, 0, 0, 0})})}));
+    ASSERT_EQ(airport.taxi_points.size(), 1U) << "the second block's list";
+    EXPECT_EQ(airport.taxi_points[0].kind, 3);
+    EXPECT_EQ(airport.taxi_points[0].lon, airport.lon) << "the same to the bit";
+    ASSERT_EQ(airport.parkings.size(), 1U);
+    EXPECT_EQ(airport.taxi_points[0].lat, 44.983333);
+    EXPECT_EQ(airport.parkings[0].lat, 45.016667);
+    EXPECT_NEAR(airport.parkings[0].lon, airport.lon - 0.023570, 1e-6);
+    EXPECT_EQ(airport.parkings[0].radius_ft, 100);
+    EXPECT_EQ(airport.parkings[0].name, "SE PARKING 12");
+    EXPECT_EQ(Path_Names(airport), "A|Runway 9L|1|Runway |2|-1|");
+    EXPECT_EQ(Path_Names(Read(Taxi({paths, Longs({0, 8})}))), "1|0|1|1|2|-1|") << "no runways";
+    EXPECT_EQ(airport.taxi_paths[2].start_point * 10 + airport.taxi_paths[2].end_point, 34);
+}
+
+TEST(Taxi_Reader, Block_Ends_Too_Early_Or_Too_Late) {
+    const Bytes paths = List(32, {Path(0, 0, 0, 0), Path(1, 0, 0, 0)});
+    const Bytes names = Names({"A"});
+    const std::tuple<const char*, Bytes, const char*> cases[] = {
+        {"paths behind the names", Taxi({names, paths}), "END"},
+        {"no names", Taxi({paths}), "0|0|END"},
+        {"empty names still name runways", Taxi({paths, Longs({-1, 8})}), "0|Runway 9|END"},
+        {"unknown empty list", Taxi({paths, Longs({0, 0}), names}), "0|0|END"},
+        {"fault in a list", Taxi({paths, Longs({1000, 32})}), "0|0|"},
+        {"fault of a huge count", Taxi({paths, Longs({0x7FFFFFFF, 32})}), "0|0|"},
+        {"fault in the names", Taxi({paths, Longs({1000, 8})}), "0|0|"},
+        {"lists behind the end", Record(0x11001, Join({paths, names}), 0), "A|Runway 9|"},
+    };
+    for (const auto& [what, block, expected] : cases) {
+        const bool sound = !std::string_view(what).starts_with("fault");
+        const Airport_Info airport = Read(Join({Runway({}), block, Icao("END")}), sound);
+        EXPECT_EQ(Path_Names(airport) + airport.icao_id, expected) << what;
+    }
+}
+
+TEST(Taxi_Reader, Parking_Label_Wrong) {
+    const std::pair<std::int32_t, const char*> cases[] = {{5 * 128 + 38, " 5"},
+                                                          {12 * 128 + 5, "SE PARKING 12"},
+                                                          {13 * 128, "SE PARKING 13"},
+                                                          {37, "GATE Z 0"},
+                                                          {64, "GATE Z 0"},
+                                                          {128 + 64, "GATE Z 2"},
+                                                          {0xFFFFF, "GATE Z 8192"},
+                                                          {7 * 128 + 10, "GATE 7"},
+                                                          {-1 << 20 | 129, "PARKING 1"}};
+    std::string_view label;
+    for (const auto& [packed, name] : cases)
+        EXPECT_EQ(Parking_Name(packed, label), name) << packed;
+}
+
+TEST(Taxi_Reader, Chain_Of_Name_Numbers_Cut_Or_Looped) {
+    const std::vector<std::string> names{"2", "0", "4", "3", "B", "", "07", "1"};
+    const std::pair<const char*, const char*> cases[] = {
+        {"0", "B"},
+        {"1", "0"},
+        {"3", "3"},
+        {"5", ""},
+        {"6", "07"},
+        {"7", "1"},
+        {"8", "8"},
+        {"-1", "-1"},
+        {"07", "07"},
+        {" 2", " 2"},
+        {"18446744073709551617", "18446744073709551617"}};
+    for (const auto& [number, name] : cases) {
+        std::vector<Taxi_Path> paths{{Path_Taxiway, 0, 0, number}, {Path_Runway, 0, 0, number}};
+        Name_Taxiways(names, paths);
+        EXPECT_EQ(paths[0].name, name);
+        EXPECT_EQ(paths[1].name, number);
     }
 }
 

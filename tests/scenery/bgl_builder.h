@@ -8,7 +8,7 @@
 
 #include "app/settings.h"
 #include "scenery/bgl_reader.h"
-#include "scenery/tables.h"
+#include "scenery/database.h"
 
 /// Images of BGL files, built from the bytes of their parts.
 namespace skerrand::bgl {
@@ -78,11 +78,11 @@ inline Bytes Aid(std::int32_t lat, std::int32_t lon, std::int32_t course, std::i
     return Record(0x10004, Join({fields, Text(name)}));
 }
 
-/// Of the lists below.
 inline Bytes Taxi(const std::vector<Bytes>& lists) {
     return Record(0x11001, Join(lists));
 }
 
+/// Points have 12 bytes, parkings 20, paths 32.
 inline Bytes List(std::int32_t element_size, const std::vector<Bytes>& elements) {
     return Join({Longs({std::ssize(elements), element_size}), Join(elements)});
 }
@@ -94,22 +94,13 @@ inline std::int64_t Single(float value) {
 inline Bytes Point(std::int32_t kind, float x, float z) {
     return Longs({kind, Single(x), Single(z)});
 }
-inline Bytes Points(const std::vector<Bytes>& points) {
-    return List(12, points);
-}
 
 inline Bytes Parking(float x, float z, float radius, std::int32_t packed) {
     return Longs({Single(x), Single(z), Single(radius), 0, packed});
 }
-inline Bytes Parkings(const std::vector<Bytes>& parkings) {
-    return List(20, parkings);
-}
 
 inline Bytes Path(std::int32_t kind, std::int32_t start, std::int32_t end, std::int32_t name) {
     return Longs({kind, 0, 0, start, end, 0, 0, name});
-}
-inline Bytes Paths(const std::vector<Bytes>& paths) {
-    return List(32, paths);
 }
 
 inline Bytes Names(const std::vector<std::string>& names) {
@@ -157,9 +148,9 @@ inline Bytes Group(std::int32_t kind = 4) {
 /// A sound file with every kind of record.
 inline Bytes Sample() {
     const Bytes taxi =
-        Taxi({Points({Point(1, 10, -20), Point(1, 0, 35.5F), Point(5, -700, 0)}),
-              Parkings({Parking(15, 25, 12, 0x800605), Parking(-40, -5, 0.5F, 0xA00090)}),
-              Paths({Path(0, 0, 1, 1), Path(1, 1, 2, 0), Path(2, 2, 0, 0)}), Names({"", "B"})});
+        Taxi({List(12, {Point(1, 10, -20), Point(1, 0, 35.5F), Point(5, -700, 0)}),
+              List(20, {Parking(15, 25, 12, 0x800605), Parking(-40, -5, 0.5F, 0xA00090)}),
+              List(32, {Path(0, 0, 1, 1), Path(1, 1, 2, 0), Path(2, 2, 0, 0)}), Names({"", "B"})});
     const Bytes large =
         Join({Position(5000875, 0x40000000), Icao("lxgb"), Com(6, 0x01213000), Com(1, 0x01180000),
               Runway({5000875, 0x40000000, 3, 0x40000000, 6000, 150, 1, 9}),

@@ -16,7 +16,7 @@ TEST(Catalogue, AreaWithAnothersText) {
          "[Area.1]\rTitle=A\n\n\r\n[Area.2]\nTitle=B\r[Area.3]\r\nTitle=C",
          {"A", "B", "C"}},
         {"letters' case minded", "[AREA.001]\nTITLE=Al\n[aREA.2]\ntitle=Be", {"Al", "Be"}},
-        {"blanks kept, or tabs taken for blanks", "[Area.1]\nTitle=  A b \t \n", {"A b \t"}},
+        {"blanks kept, or tabs taken for blanks", "[Area.1]\nTitle= \tA b \t \n", {"\tA b \t"}},
         {"key ahead of a blank found", "[Area.1]\nTitle =A\n[Area.2]\nTitle=\n", {"", ""}},
         {"key in a longer name not found", "[Area.1]\nSubtitle=A\nTitle=B", {"A"}},
         {"indented head not seen", "  [Area.1]\nTitle=A\n [Area.2]  \nTitle=B", {"A", "B"}},
@@ -48,16 +48,13 @@ TEST(Catalogue, AreaWithAnothersText) {
     }
 }
 
-TEST(Catalogue, FieldFromAnotherKey) {
-    const std::vector<Scenery_Area> areas = Parse_Scenery_Cfg(
-        "[Area.001]\nLocal=l\nRemote=r\nRequired=q\nLayer=y\nActive=a\nTexture_ID=x\nTitle=t\n");
-    EXPECT_EQ(areas, (std::vector<Scenery_Area>{{"t", "x", "a", "y", "q", "r", "l"}}));
-}
-
-TEST(Catalogue, MoreAreasThanTheirCounterHolds) {
-    std::string text;
+TEST(Catalogue, FieldFromAnotherKeyOrMoreAreasThanTheirCounterHolds) {
+    std::string text =
+        "[Area.001]\nLocal=l\nRemote=r\nRequired=q\nLayer=y\nActive=a\nTexture_ID=x\nTitle=t\n";
+    EXPECT_EQ(Parse_Scenery_Cfg(text),
+              (std::vector<Scenery_Area>{{"t", "x", "a", "y", "q", "r", "l"}}));
     for (std::size_t i = 0; i <= Most_Areas; ++i)
-        text += "[Area." + std::to_string(i) + "]\n";
+        text += "[Area.1]\n";
     EXPECT_EQ(Parse_Scenery_Cfg(text).size(), Most_Areas);
 }
 
@@ -68,30 +65,26 @@ TEST(Catalogue, FolderNotFoundOrLeftAsGiven) {
         std::filesystem::create_directories(std::filesystem::path("Sim") / folder);
     }
     fs_root = scratch.Path() + "/Sim";
-    struct {
-        std::string value;
-        std::vector<std::string> drives;
-        std::string below_root;  ///< empty: left out
-    } const cases[] = {
-        {"scenery", {}, "\\scenery"},
-        {" Add\\On ", {}, "\\add\\on\\scenery"},
-        {"Add/On/SCENERY", {"c: ", "d:"}, "\\add\\on\\scenery"},
-        {fs_root + "/ADD/on", {}, "\\add\\on\\scenery"},
+    const std::string root = platform::Lower_Case(fs_root);
+    // What is given as a whole path has the program's separators all through.
+    std::string whole = root + "\\add\\on\\scenery";
+    std::ranges::replace(whole, '/', '\\');
+    using Drives = std::vector<std::string>;
+    const std::tuple<std::string, Drives, std::string> cases[] = {
+        {"scenery", {}, root + "\\scenery"},
+        {" Add\\On ", {}, root + "\\add\\on\\scenery"},
+        {"Add/On/SCENERY", {"c: ", "d:"}, root + "\\add\\on\\scenery"},
+        {fs_root + "/ADD/on", {}, whole},
         {"nowhere", {}, ""},
-        {"myscenery", {}, "\\myscenery\\scenery"},
-        {"\\\\Net\\Share\\Deep", {"C: DISK", "X: \\\\NET\\share"}, "\\x:\\deep\\scenery"},
-        {"ab\\AB", {"X: aB"}, "\\x:\\x:\\scenery"},
-        {"", {}, ""},
-    };
-    for (const auto& c : cases) {
+        {"myscenery", {}, root + "\\myscenery\\scenery"},
+        {"\\\\Net\\Share\\Deep", {"C: DISK", "X: \\\\NET\\share"}, root + "\\x:\\deep\\scenery"},
+        {"ab\\AB", {"X: aB"}, root + "\\x:\\x:\\scenery"},
+        {"", {}, ""}};
+    for (const auto& [value, drives, folder] : cases) {
         scenery_areas.assign(1, {});
-        scenery_areas[0].local = c.value;
-        Resolve_Local_Paths(c.drives);
-        std::string root = platform::Lower_Case(fs_root);
-        // What was given as a whole path has the program's separators all through.
-        if (c.value.starts_with(fs_root)) std::replace(root.begin(), root.end(), '/', '\\');
-        EXPECT_EQ(scenery_areas[0].local, c.below_root.empty() ? "" : root + c.below_root)
-            << c.value;
+        scenery_areas[0].local = value;
+        Resolve_Local_Paths(drives);
+        EXPECT_EQ(scenery_areas[0].local, folder) << value;
     }
     EXPECT_FALSE(Read_Scenery_Cfg("no_such_scenery.cfg"));
     EXPECT_TRUE(scenery_areas.empty()) << "left from another file";

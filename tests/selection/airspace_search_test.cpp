@@ -1,13 +1,9 @@
 #include "selection/airspace_search.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
-#include "app/settings.h"
 #include "chart/current_chart.h"
-#include "platform/controls.h"
-#include "platform/headless/program.h"
-#include "scenery/tables.h"
-#include "selection/form3.h"
 #include "selection/picks.h"
 #include "tests/scenery/bgl_builder.h"
 
@@ -31,57 +27,42 @@ std::string Saved(const char* name, const Bytes& bytes) {
     return path;
 }
 
-class Airspace_Search : public testing::Test {
-  protected:
-    void SetUp() override {
-        first_run = false;
-        database_ready = true;
-        departure_airport = {};
-        departure_airport.lat = departure_airport.lon = 45;
-        destination_airport = departure_airport;
-        platform::headless::Take_Messages();
-    }
-    void TearDown() override { database_ready = false; }
+std::string progress;
 
-    static void Search(const std::vector<std::string>& files) {
-        airspace_file_count = static_cast<std::int32_t>(files.size());
-        airspace_files = files;
-        Search_Airspaces();
-        EXPECT_TRUE(airspace_files.empty());
-    }
-};
+/// Both airports stand at that place.
+Unread_Files Search(const std::vector<std::string>& files) {
+    first_run = false;
+    database_ready = true;
+    departure_airport.lat = departure_airport.lon = 45;
+    destination_airport.lat = destination_airport.lon = 45;
+    current_airspaces.resize(3);
+    airspace_files = files;
+    progress.clear();
+    Unread_Files unread = Search_Airspaces([](int done, int of) {
+        progress += std::to_string(done) + '/' + std::to_string(of) + ' ';
+    });
+    EXPECT_TRUE(airspace_files.empty() && current_airspaces.empty());
+    return unread;
+}
 
-TEST_F(Airspace_Search, LadderOfLabelsIsClimbedWrongly) {
-    const struct {
-        std::int32_t low, high;
-        const char* facility;
-        const char* label;
-    } cases[] = {
+TEST(Airspace_Search, LabelOrDiscWrong) {
+    const std::tuple<std::int32_t, std::int32_t, const char*, const char*> cases[] = {
         {0, 2500, nullptr, "Airspace Class D"},  {2500, 2501, nullptr, "Airspace Class C"},
         {2501, 0, nullptr, "Airspace Class C"},  {4000, 4001, nullptr, "Airspace Class B"},
         {4001, -1, nullptr, "Airspace Class B"}, {INT32_MIN, -1, nullptr, "Airspace Class D"},
-        {9000, 9000, "FIR", "ARTCC/FIR"},        {1000, 2000, "", "Airspace Class D"},
-    };
+        {9000, 9000, "FIR", "ARTCC/FIR"},        {1000, 2000, "", "Airspace Class D"}};
     Bytes objects;
-    for (const auto& c : cases)
-        objects = Join({objects, Airspace(c.low, c.high, c.facility)});
-    const Bytes section = Record(1, Join({Longs({4, 0}), objects}));
-    departure_airport.approach_freq = "119.1";
-    Search({Saved("ladder.bgl", Image({}, section))});
-
-    ASSERT_EQ(departure_airspaces.size(), std::size(cases) + 1);
-    EXPECT_EQ(destination_airspaces.size(), std::size(cases));
-    for (std::size_t i = 0; i < std::size(cases); ++i)
-        EXPECT_EQ(departure_airspaces[i].class_label, cases[i].label) << i;
-    EXPECT_EQ(departure_airspaces.back().class_label, "TRACON (Departure/Approach)");
-}
-
-TEST_F(Airspace_Search, DiscWithoutFrequencyOrOfAnotherAirport) {
+    for (const auto& [low, high, facility, label] : cases)
+        objects = Join({objects, Airspace(low, high, facility)});
     departure_airport.departure_freq = "124.3";
     departure_airport.approach_freq = "118";
-    Search({});
-    EXPECT_TRUE(destination_airspaces.empty());
-    const Airspace_Info& disc = departure_airspaces.at(0);
+    Search({Saved("ladder.bgl", Image({}, Record(1, Join({Longs({4, 0}), objects}))))});
+    ASSERT_EQ(departure_airspaces.size(), std::size(cases) + 1);
+    EXPECT_EQ(destination_airspaces.size(), std::size(cases)) << "no frequency, no disc";
+    for (std::size_t i = 0; i < std::size(cases); ++i)
+        EXPECT_EQ(departure_airspaces[i].class_label, std::get<3>(cases[i])) << i;
+    const Airspace_Info& disc = departure_airspaces.back();
+    EXPECT_EQ(disc.class_label, "TRACON (Departure/Approach)");
     EXPECT_EQ(disc.freq_text, "124.3 Mhz  118 Mhz  ");
     EXPECT_EQ(disc.low_limit + disc.high_limit, 10000);
     ASSERT_EQ(disc.boundary.size(), 2);
@@ -90,33 +71,30 @@ TEST_F(Airspace_Search, DiscWithoutFrequencyOrOfAnotherAirport) {
 
     destination_airport.approach_freq = "119.1";
     departure_airport.approach_freq.clear();
-    current_airspaces.resize(3);
     Search({});
-    EXPECT_TRUE(current_airspaces.empty());
     EXPECT_EQ(departure_airspaces.at(0).freq_text, "124.3 Mhz  ");
     EXPECT_EQ(destination_airspaces.at(0).freq_text, "119.1 Mhz  ");
+    departure_airport = destination_airport = {};
 }
 
-TEST_F(Airspace_Search, UnreadableFileEndsTheSearchOrGoesUntold) {
+TEST(Airspace_Search, FileUnreadOrReadForAnother) {
     const Bytes sound = Image({}, Record(1, Join({Longs({4, 0}), Airspace(0, 0, nullptr)})));
     Bytes foreign = sound;
     foreign[0x76] = 0;
     const std::string last = Saved("last.bgl", sound);
-    platform::Show(form3::window);
-    Search({Saved("foreign.bgl", foreign), Saved("short.bgl", Bytes(0x79)), last});
+    const std::string other = Saved("foreign.bgl", foreign);
+    EXPECT_EQ(Search({other, Saved("short.bgl", Bytes(0x79)), last}).count, 0);
     EXPECT_EQ(departure_airspaces.size(), 1);
-    EXPECT_TRUE(platform::headless::Take_Messages().empty());
-    Search({"no such 1", last, "no such 2", last});
+    const Unread_Files unread = Search({"no such 1", last, "no such 2", last});
     EXPECT_EQ(departure_airspaces.size(), 2);
-    EXPECT_EQ(airspace_file_count, 4);
-    const platform::Progress full = platform::Progress_Of(form3::ProgressBar1);
-    EXPECT_EQ(full.maximum, 4);
-    EXPECT_EQ(full.value, 4);
-    platform::Unload(form3::window);
-    const auto messages = platform::headless::Take_Messages();
-    ASSERT_EQ(messages.size(), 1);
-    EXPECT_EQ(messages[0].text.find("2 of the 4"), 0);
-    EXPECT_NE(messages[0].text.find("no such 1"), std::string::npos);
+    EXPECT_EQ(unread.count, 2);
+    EXPECT_EQ(unread.first, "no such 1");
+    EXPECT_EQ(progress, "0/4 1/4 2/4 3/4 4/4 ");
+    const std::string twin = testing::TempDir() + "/FOREIGN.bgl";
+    std::filesystem::copy(last, twin);
+    EXPECT_EQ(Search({other}).count, 0);
+    EXPECT_EQ(departure_airspaces.size(), 1) << "a list in lower case stands for both";
+    std::filesystem::remove(twin);
 }
 
 }  // namespace

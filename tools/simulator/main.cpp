@@ -8,7 +8,6 @@
 #include "platform/simulator/server.h"
 #include "platform/simulator/simulator.h"
 #include "scenery/database.h"
-#include "scenery/tables.h"
 #include "tools/simulator/flight.h"
 #include "tools/simulator/options.h"
 

@@ -1,0 +1,31 @@
+#include "selection/picks.h"
+
+#include <gtest/gtest.h>
+
+#include "scenery/database.h"
+
+namespace skerrand {
+namespace {
+
+TEST(Picks, EqualEntriesTakeTheFirstOrTheTableStays) {
+    const std::pair<const char*, const char*> airports[] = {
+        {"Field", "AAAA"}, {"Field (AAAA)", ""}, {"Field", "AAAA"}, {"Field", "aaaa"}, {"", ""}};
+    const std::pair<const char*, double> cases[] = {
+        {"Field (AAAA)", 2}, {"Field (aaaa)", 3}, {"Field (AAAA) ()", 1}, {" ()", 4}, {"None", 9}};
+    for (const auto& [entry, place] : cases) {
+        for (const auto& [name, id] : airports) {
+            Airport_Info& airport = airport_table.emplace_back();
+            airport.airport_name = name;
+            airport.icao_id = id;
+            airport.lat = static_cast<double>(airport_table.size() - 1);
+        }
+        departure_airport.lat = destination_airport.lat = 9;
+        Take_Picks(entry, "Field (aaaa)");
+        EXPECT_EQ(departure_airport.lat, place) << entry;
+        EXPECT_EQ(destination_airport.lat, 3);
+        EXPECT_EQ(airport_table.capacity(), 0) << "the memory of a world";
+    }
+}
+
+}  // namespace
+}  // namespace skerrand
