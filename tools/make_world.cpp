@@ -114,7 +114,10 @@ int Fail(const std::string& fault, int status) {
 
 int main(int argc, char** argv) {
     Options options;
-    options.data = fs::path(argv[0]).parent_path() / "data";
+    // Found by its name alone the program does not learn its folder from the command line.
+    std::error_code unknown;
+    const fs::path self = fs::read_symlink("/proc/self/exe", unknown);
+    options.data = (unknown ? fs::path(argv[0]) : self).parent_path() / "data";
     std::string fault = Parse_Options(argc, argv, options);
     if (!fault.empty()) return Fail(fault + "\nmake_world --help tells more.", 2);
     if (options.help) {
