@@ -17,11 +17,12 @@ namespace skerrand {
 platform::Bytes Airport_Table_Bytes(std::span<const Airport_Info> airports);
 
 /// Reads `count` airports and the record behind them from the bytes of the file. The last record
-/// may be absent if the bytes end right where it would start, and whatever stands behind it is
-/// passed over: a count that is one too low or too high is not noticed.
+/// may be absent if the bytes end right where it would start, so that a count that is one too high
+/// is not noticed.
 ///
-/// False, with `airports` empty, for a negative count, or if a record reaches beyond the bytes, an
-/// array's size does not fit its count, or a coordinate is no finite number.
+/// False, with `airports` empty, for a negative count, or if bytes follow the last record, a record
+/// reaches beyond the bytes, an array's size does not fit its count, or a coordinate is no finite
+/// number.
 bool Parse_Airport_Table(std::span<const std::uint8_t> bytes, std::int32_t count,
                          std::vector<Airport_Info>& airports);
 

@@ -139,7 +139,8 @@ bool Get_Record(Source& source, std::string& file) {
     return Get_Text(source, file);
 }
 
-/// All records in use and the one behind them, which may be absent.
+/// All records in use and the one behind them, which may be absent, and nothing more: what stands
+/// there belongs to another scan than the count.
 template <typename Record>
 bool Get_Records(Source& source, std::int32_t count, std::size_t least,
                  std::vector<Record>& records) {
@@ -149,7 +150,7 @@ bool Get_Records(Source& source, std::int32_t count, std::size_t least,
         if (!Get_Record(source, record)) return false;
     }
     Record unused;
-    return source.Left() == 0 || Get_Record(source, unused);
+    return source.Left() == 0 || (Get_Record(source, unused) && source.Left() == 0);
 }
 
 template <typename Record>
