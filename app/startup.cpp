@@ -44,7 +44,17 @@ void Decide_Start() {
         Begin_Setup();
         return;
     }
-    if (!Load_Settings(Settings_File)) {
+    platform::Bytes bytes;
+    if (!platform::Read_File(Settings_File, bytes)) {
+        Show_Message("The settings file " + Own_File(Settings_File) +
+                         " cannot be read. The program will end. Please make it readable, or "
+                         "delete it to choose your Flight Simulator's folder again, and start the "
+                         "program again.",
+                     platform::Icon::Critical);
+        platform::End_Program();
+        return;
+    }
+    if (!Take_Settings(bytes)) {
         Show_Message("The settings file " + Own_File(Settings_File) +
                          " is damaged. Please choose your Flight Simulator's folder again; the "
                          "database of airports will be created anew.",

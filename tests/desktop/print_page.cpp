@@ -1,9 +1,12 @@
 // Prints one page on the system's default printer:
 //   print_page [wait]
+// or, where there is none, to a file; a message box is answered at once.
 // With "wait" it waits for a line of input between opening the printer and printing. The status is
 // 0 if the printer has taken the page, 1 if not.
 
 #include <QApplication>
+#include <QTimer>
+#include <QWidget>
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -17,6 +20,11 @@ using namespace platform;
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     desktop::Set_Up_Application();
+    QTimer answers;
+    QObject::connect(&answers, &QTimer::timeout, [] {
+        if (QWidget* box = QApplication::activeModalWidget()) box->close();
+    });
+    answers.start(5);
     if (!Open_Printer()) return EXIT_FAILURE;
     if (argc > 1) {
         std::cout << "open" << std::endl;
