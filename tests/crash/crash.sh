@@ -91,7 +91,7 @@ mkdir -p "$folder"/{whole,before_setup,before_print}
 "$bin/make_world" "$world" || exit 1
 cd "$folder/whole" || exit 1
 run setup > ../lists
-[ "$(head -n 1 ../lists)" = Done ] && [ "$(wc -l < ../lists)" -eq 53 ] || exit 1
+[ "$(head -n 1 ../lists)" = Done ] && [ "$(wc -l < ../lists)" -gt 9 ] || exit 1
 strace -o /dev/null true 2> /dev/null || exit 77
 cp all_fs_airports.dat skerrand_config.cfg ../before_setup # of a setup that was given up
 cp -r . ../before_keys && cd ../before_keys || exit 1
