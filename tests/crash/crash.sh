@@ -117,7 +117,7 @@ xargs -P 2 -L 1 bash -c 'try "$@"' try < ../points >> ../verdicts
 # A start while another process writes must not take its temporary file for one that was left.
 cp -r ../before_keys ../two && cd ../two || exit 1
 run keys -e trace=fsync -e inject=fsync:delay_enter=1s:when=1 > /dev/null &
-until ls ./*.tmp > /dev/null 2>&1; do sleep 0.02; done
+while kill -0 $! && ! ls ./*.tmp; do sleep 0.02; done > /dev/null 2>&1
 run start > ../two.lists
 wait
 cmp -s ../two.lists ../lists && files_are_whole keys &&
