@@ -42,8 +42,8 @@ namespace {
 
 constexpr auto Timer1 = platform::Find_Control(window, "Timer1");
 
-/// The three files of the program live and die together: if one is missing, or the settings cannot
-/// be read, the others are deleted.
+/// The three files of the program live and die together: if one is missing, or the settings are
+/// damaged, the others are deleted.
 void Begin_Setup() {
     Delete_Own_Files();
     first_run = true;
@@ -66,7 +66,16 @@ void Timer1_Timer() {
     for (const char* name : {Settings_File, Airports_File, Airspaces_File})
         platform::Remove_Leftovers(Own_File(name));
     if (!All_Own_Files_Exist()) return Begin_Setup();
-    if (!Load_Settings(Settings_File)) {
+    const Load_Result result = Load_Settings(Settings_File);
+    if (result == Load_Result::Unreadable) {
+        Show_Message("The settings file " + Own_File(Settings_File) +
+                         " cannot be read. The program will end. Please make it readable, or "
+                         "delete it to choose your Flight Simulator's folder again, and start the "
+                         "program again.",
+                     platform::Icon::Critical);
+        return platform::End_Program();
+    }
+    if (result == Load_Result::Damaged) {
         Show_Message("The settings file " + Own_File(Settings_File) +
                          " is damaged. Please choose your Flight Simulator's folder again; the "
                          "database of airports will be created anew.",

@@ -61,12 +61,13 @@ platform::Bytes Settings_Bytes(const Settings_Rec& record) {
     return file.bytes;
 }
 
-bool Load_Settings(const std::string& file) {
+Load_Result Load_Settings(const std::string& file) {
     platform::Bytes bytes;
-    if (!platform::Read_File(file, bytes) || !Parse_Settings(bytes, settings)) return false;
+    if (!platform::Read_File(file, bytes)) return Load_Result::Unreadable;
+    if (!Parse_Settings(bytes, settings)) return Load_Result::Damaged;
     sim_version = settings.sim_version;
     fs_root = settings.fs_path;
-    return true;
+    return Load_Result::Loaded;
 }
 
 std::string Save_Settings() {

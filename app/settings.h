@@ -55,10 +55,16 @@ bool Parse_Settings(const platform::Bytes& bytes, Settings_Rec& record);
 /// The record's bytes. A text longer than 65535 bytes is cut there.
 platform::Bytes Settings_Bytes(const Settings_Rec& record);
 
+enum class Load_Result : std::uint8_t {
+    Loaded,
+    Unreadable,  ///< no file, no right to read it, a read error
+    Damaged,     ///< it does not hold a whole record
+};
+
 /// Reads the file into `settings` and takes the simulator's version and folder from it; the sizes
-/// of the tables are the caller's to take. A bare name lies in the working folder. False, with
-/// nothing changed, if the file cannot be read or does not hold a whole record.
-bool Load_Settings(const std::string& file);
+/// of the tables are the caller's to take. A bare name lies in the working folder. Unless the
+/// answer is `Loaded`, nothing changes.
+Load_Result Load_Settings(const std::string& file);
 
 /// Deletes the three files that live and die together; failures are ignored.
 void Delete_Own_Files();

@@ -104,7 +104,8 @@ void Add_Chart_Benchmarks() {
 
 void Show_Chart() {
     app_path = platform::Current_Folder();
-    if (!Load_Settings(Settings_File)) Give_Up("no databases in the working folder");
+    if (Load_Settings(Settings_File) != Load_Result::Loaded)
+        Give_Up("no databases in the working folder");
     airport_count = settings.airport_count;
     airspace_file_count = settings.airspace_file_count;
     if (!Read_Airport_Table() || !Read_Airspace_List()) Give_Up("the databases do not read back");

@@ -157,9 +157,7 @@ bool Read_File(std::string_view path, Bytes& bytes, std::size_t spare) {
 
 bool Read_File_Part(std::string_view path, std::size_t offset, std::span<std::uint8_t> part) {
     const Descriptor file = Open_To_Read(path);
-    const auto size = Size_Of(file);
-    if (!size || offset > *size || part.size() > *size - offset) return false;
-    return Read_At(file, offset, part) == part.size();
+    return Size_Of(file) && Read_At(file, offset, part) == part.size();
 }
 
 std::string Write_File(std::string_view path, std::span<const std::uint8_t> bytes) {

@@ -8,6 +8,7 @@
 #include <memory>
 #include <span>
 #include <sys/stat.h>
+#include <tuple>
 #include <unordered_map>
 
 #include "platform/code_page.h"
@@ -61,11 +62,11 @@ std::vector<std::string> In_Any_Case(const std::string& native_folder, std::stri
         listing = {status, std::time(nullptr), std::move(entries)};
     }
     std::vector<std::string> names;
-    const auto like =
-        std::ranges::equal_range(listing.entries, Lower_Case(name), {}, &Entry::lower);
-    for (const Entry& entry : like) {
+    const std::string lower = Lower_Case(name);
+    for (auto entry = std::ranges::lower_bound(listing.entries, lower, {}, &Entry::lower);
+         entry != listing.entries.end() && entry->lower == lower; ++entry) {
         // Not what merely looks like it because its characters have no place in the code page.
-        if (To_Utf8(entry.name) == entry.native) names.push_back(entry.native);
+        if (To_Utf8(entry->name) == entry->native) names.push_back(entry->native);
     }
     return names;
 }
@@ -138,7 +139,9 @@ std::optional<std::vector<Entry>> Entries(const std::string& native_folder, Entr
         errno = 0;
     }
     if (errno != 0) return std::nullopt;
-    std::sort(entries.begin(), entries.end());
+    std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
+        return std::tie(a.lower, a.name, a.native) < std::tie(b.lower, b.name, b.native);
+    });
     return entries;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -22,8 +21,6 @@ struct Entry {
     std::string lower;   ///< `name` in small letters
     std::string name;    ///< Windows-1252, "?" for what it does not have
     std::string native;  ///< as the file system has it
-
-    friend auto operator<=>(const Entry&, const Entry&) = default;
 };
 
 /// What stands in a folder, "." and ".." left out and links followed: ordinary files, folders, or

@@ -6,6 +6,8 @@
 // the page, 1 if not.
 
 #include <QApplication>
+#include <QTimer>
+#include <QWidget>
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -19,6 +21,12 @@ using namespace platform;
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     desktop::Set_Up_Application();
+    // Without a printer the page goes to a file, which a message box tells.
+    QTimer answers;
+    QObject::connect(&answers, &QTimer::timeout, [] {
+        if (QWidget* box = QApplication::activeModalWidget()) box->close();
+    });
+    answers.start(5);
     if (!Open_Printer()) return EXIT_FAILURE;
     constexpr std::string_view Text = "S\xE3o Paulo, Z\xFCrich, \x8Alapanice & Co";
     const int width = static_cast<int>(Printable_Size().width);

@@ -26,7 +26,10 @@ constexpr int Look_Again = 100;  // milliseconds between two looks for the datab
 
 /// Reads what Skerrand has found; false if it is not there, not whole, or holds no airport.
 bool Load_Airports() {
-    if (!skerrand::Load_Settings(skerrand::Own_File(skerrand::Settings_File))) return false;
+    if (skerrand::Load_Settings(skerrand::Own_File(skerrand::Settings_File)) !=
+        skerrand::Load_Result::Loaded) {
+        return false;
+    }
     skerrand::airport_count = skerrand::settings.airport_count;
     return skerrand::Read_Airport_Table() && !skerrand::airport_table.empty();
 }

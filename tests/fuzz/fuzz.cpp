@@ -1,0 +1,138 @@
+// The readers of files that nobody vouches for, varied by libFuzzer until a promise breaks:
+//   fuzz FOLDER [SAMPLES|OPTION]...
+// FOLDER bears the name of the reader, and takes what is found and samples like those of the tests.
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <span>
+#include <string>
+
+#include "app/settings.h"
+#include "platform/code_page.h"
+#include "scenery/bgl_reader.h"
+#include "scenery/bgl_walk.h"
+#include "scenery/catalogue.h"
+#include "scenery/database.h"
+#include "scenery/magnetic.h"
+#include "tests/scenery/bgl_builder.h"
+
+using namespace skerrand;
+
+namespace {
+
+using bgl::Bytes;
+
+void Check(bool promise) {
+    if (!promise) std::abort();
+}
+
+/// What the settings file tells of a database: the first two bytes of an input.
+std::int16_t Take_Count(Bytes& input) {
+    input.resize(std::max<std::size_t>(input.size(), 2));
+    const auto count = static_cast<std::int16_t>(input[0] | input[1] << 8);
+    input.erase(input.begin(), input.begin() + 2);
+    return count;
+}
+
+/// A table that reads is written as one that reads the same.
+template <typename Element, auto Parse, auto Write>
+void Fuzz_Table(Bytes file) {
+    const std::int16_t count = Take_Count(file);
+    std::vector<Element> table, again;
+    if (!Parse(file, count, table)) return Check(table.empty());
+    Check(std::ssize(table) == count && Parse(Write(table), count, again) && again == table);
+}
+
+/// Scanned for the database first, then searched for airspaces.
+void Fuzz_Bgl(Bytes file) {
+    bgl::Load(file);
+    for (const bool search : {false, true}) {
+        first_run = !search;
+        database_ready = search;
+        Walk_Bgl();
+        Check(airport_count == std::ssize(airport_table) && airspace_files.size() <= 1);
+    }
+}
+
+/// The first two bytes, times 2, are the length of a file that is 0 behind the others.
+void Fuzz_Magdec(Bytes file) {
+    constexpr std::int16_t Untouched = 0x5A5A;
+    const std::size_t length = std::size_t{2} * static_cast<std::uint16_t>(Take_Count(file));
+    file.resize(length);
+    bgl_bytes = bgl::Join({file, {0}});
+    magnetic_table.fill(Untouched);
+    if (Take_Grid() != Magdec_Result::Loaded) {
+        return Check(std::ranges::count(magnetic_table, Untouched) == std::ssize(magnetic_table));
+    }
+    Check(static_cast<std::size_t>(Read_Long(110)) + 8 + 2 * Grid_Values <= length);
+    Check(magnetic_table[Grid_Values] == Untouched);
+}
+
+void Fuzz_Scenery_Cfg(Bytes file) {
+    const std::string text(file.begin(), file.end());
+    scenery_areas = Parse_Scenery_Cfg(text);
+    // Each resolving asks the file system some questions, so that many areas would take long.
+    scenery_areas.resize(std::min<std::size_t>(scenery_areas.size(), 2));
+    const std::string drives[] = {"x: ", "y: " + text.substr(0, 3)};
+    Resolve_Local_Paths(drives);
+    for (const Scenery_Area& area : scenery_areas) {
+        Check((area.title + area.local).find('\n') == std::string::npos);
+        Check(area.local == platform::Lower_Case(area.local));
+        Check(area.local.empty() || platform::Folder_Exists(area.local));
+    }
+}
+
+/// A record that reads is written as the same bytes.
+void Fuzz_Settings(Bytes file) {
+    Settings_Rec record;
+    if (!Parse_Settings(file, record)) return Check(record == Settings_Rec{});
+    const Bytes written = Settings_Bytes(record);
+    file.resize(std::min(file.size(), written.size()));
+    Check(written == file && record.airport_count >= 0 && record.airspace_file_count >= 0);
+}
+
+constexpr std::pair<std::string_view, void (*)(Bytes)> readers[] = {
+    {"airports", Fuzz_Table<Airport_Info, Parse_Airport_Table, Airport_Table_Bytes>},
+    {"airspaces", Fuzz_Table<std::string, Parse_Airspace_List, Airspace_List_Bytes>},
+    {"bgl", Fuzz_Bgl},
+    {"magdec", Fuzz_Magdec},
+    {"scenery_cfg", Fuzz_Scenery_Cfg},
+    {"settings", Fuzz_Settings},
+};
+void (*reader)(Bytes) = nullptr;
+
+void Write_Samples(const std::string& folder) {
+    using namespace bgl;
+    Load(Sample());
+    Walk_Bgl();
+    const Bytes airports = Airport_Table_Bytes(std::span(airport_table).first(2));
+    const Bytes samples[] = {
+        Join({{2, 0}, airports}),
+        Join({{2, 0}, Airspace_List_Bytes(std::vector<std::string>{"a", "b"})}),
+        Sample(),
+        Image({}, Join({Group(), Group(5), Group()})),
+        Image({{"A", Record(0x10003, {}, -8)}}),
+    };
+    for (std::size_t i = 0; i < std::size(samples); ++i) {
+        std::ofstream(folder + "/built_" + std::to_string(i), std::ios::binary)
+            << std::string(samples[i].begin(), samples[i].end());
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments) {
+    const std::filesystem::path folder = *count > 1 ? (*arguments)[1] : "";
+    for (const auto& [name, read] : readers)
+        if (name == folder.filename()) reader = read;
+    Check(reader != nullptr);
+    Write_Samples(folder);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    reader({data, data + size});
+    return 0;
+}
