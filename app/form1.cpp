@@ -66,7 +66,16 @@ void Timer1_Timer() {
     for (const char* name : {Settings_File, Airports_File, Airspaces_File})
         platform::Remove_Leftovers(Own_File(name));
     if (!All_Own_Files_Exist()) return Begin_Setup();
-    if (!Load_Settings(Settings_File)) {
+    platform::Bytes bytes;
+    if (!platform::Read_File(Settings_File, bytes)) {
+        Show_Message("The settings file " + Own_File(Settings_File) +
+                         " cannot be read. The program will end. Please make it readable, or "
+                         "delete it to choose your Flight Simulator's folder again, and start the "
+                         "program again.",
+                     platform::Icon::Critical);
+        return platform::End_Program();
+    }
+    if (!Take_Settings(bytes)) {
         Show_Message("The settings file " + Own_File(Settings_File) +
                          " is damaged. Please choose your Flight Simulator's folder again; the "
                          "database of airports will be created anew.",

@@ -63,7 +63,11 @@ platform::Bytes Settings_Bytes(const Settings_Rec& record) {
 
 bool Load_Settings(const std::string& file) {
     platform::Bytes bytes;
-    if (!platform::Read_File(file, bytes) || !Parse_Settings(bytes, settings)) return false;
+    return platform::Read_File(file, bytes) && Take_Settings(bytes);
+}
+
+bool Take_Settings(const platform::Bytes& bytes) {
+    if (!Parse_Settings(bytes, settings)) return false;
     sim_version = settings.sim_version;
     fs_root = settings.fs_path;
     return true;

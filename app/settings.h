@@ -60,6 +60,9 @@ platform::Bytes Settings_Bytes(const Settings_Rec& record);
 /// nothing changed, if the file cannot be read or does not hold a whole record.
 bool Load_Settings(const std::string& file);
 
+/// The same from the file's bytes.
+bool Take_Settings(const platform::Bytes& bytes);
+
 /// Deletes the three files that live and die together; failures are ignored.
 void Delete_Own_Files();
 
