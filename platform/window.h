@@ -77,7 +77,9 @@ struct Control {
     bool transparent = false;  ///< label: the background shows through
     Font font = {};
     Colour colour = Colour_Black;  ///< of the text
-    /// Place in the order of the Tab key; -1 follows the table.
+    /// Place in the order of the Tab key, from 0; -1 comes behind all numbers, by the table. Of the
+    /// option buttons in one frame the key reaches the selected one alone. A window first shows
+    /// with the focus on the first control that takes it.
     int tab_index = -1;
 };
 
@@ -106,6 +108,9 @@ struct Window {
     Handler unload = nullptr;              ///< before the controls go, however it is closed
     Handler resize = nullptr;              ///< after its size or its minimised state has changed
     Mouse_Handler mouse_down = nullptr;    ///< a press on the client area beside the controls
+    /// The keys pressed in it are the program's to ask for (`GetAsyncKeyState`): none of its
+    /// controls takes the focus, so that a key moves nothing and presses no button.
+    bool takes_keys = false;
 };
 
 /// Names one control of one window.

@@ -39,23 +39,23 @@ QWidget* New_Label(const Control& row, QWidget* holder) {
 QWidget* New_Button(Live_Control& control, QWidget* holder) {
     auto* button = new QPushButton(holder);
     button->setAutoDefault(true);  // The Enter key presses the button that has the focus.
-    // A dialog may wait for keys: after a click they must not press its buttons.
-    if (control.window->table.frame == Frame_Style::Dialog) button->setFocusPolicy(Qt::TabFocus);
     QObject::connect(button, &QPushButton::clicked, holder, [&control] { Fire(control); });
     return button;
 }
 
 QWidget* New_Check(Live_Control& control, QWidget* holder) {
     auto* box = new QCheckBox(holder);
-    QObject::connect(box, &QCheckBox::toggled, holder, [&control] { Fire(control); });
+    QObject::connect(box, &QCheckBox::clicked, holder, [&control] { Fire(control); });
     return box;
 }
 
 QWidget* New_Option(Live_Control& control, QWidget* holder) {
     auto* button = new QRadioButton(holder);
-    QObject::connect(button, &QRadioButton::toggled, holder, [&control](bool checked) {
-        if (checked) Fire(control);
+    // The Tab key goes to the selected one alone.
+    QObject::connect(button, &QRadioButton::toggled, holder, [button](bool checked) {
+        button->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus);
     });
+    QObject::connect(button, &QRadioButton::clicked, holder, [&control] { Fire(control); });
     return button;
 }
 
@@ -67,7 +67,7 @@ QWidget* New_Combo(Live_Control& control, QWidget* holder) {
 
 QWidget* New_List(Live_Control& control, QWidget* holder) {
     auto* list = new Entry_List(holder);
-    QObject::connect(list, &QListView::doubleClicked, holder, [&control] { Fire(control); });
+    list->double_clicked = [&control] { Fire(control); };
     return list;
 }
 
@@ -125,6 +125,7 @@ void Build_Widget(Live_Control& control, QWidget* holder) {
     control.widget->setFont(Control_Font(row.font));
     control.widget->setGeometry(To_Logical(row.at));
     control.widget->setEnabled(row.enabled && row.kind != Control_Kind::Drive);
+    if (control.window->table.takes_keys) control.widget->setFocusPolicy(Qt::NoFocus);
     // A press on a control is none on the client area behind it.
     control.widget->setAttribute(Qt::WA_NoMousePropagation);
     Show_Caption(control, row.caption);

@@ -2,12 +2,12 @@
 
 #include <QAbstractButton>
 #include <QProgressBar>
-#include <QSignalBlocker>
 #include <algorithm>
 
 #include "platform/desktop/captions.h"
 #include "platform/desktop/handlers.h"
 #include "platform/desktop/live_control.h"
+#include "platform/desktop/window_widget.h"
 #include "platform/desktop/windows.h"
 
 namespace platform {
@@ -41,7 +41,16 @@ void Set_Enabled(Control_Ref control, bool enabled) {
     const Live_Control* live = Find_Live(control);
     if (live == nullptr) return;
     if (live->action != nullptr) live->action->setEnabled(enabled);
-    if (live->widget != nullptr) live->widget->setEnabled(enabled);
+    if (live->widget == nullptr) return;
+    QWidget*& loser = live->window->lost_focus;
+    if (!enabled && loser == nullptr && live->widget == live->window->focusWidget()) {
+        loser = live->widget;
+    }
+    live->widget->setEnabled(enabled);
+    if (enabled && loser == live->widget) {
+        loser->setFocus();
+        loser = nullptr;
+    }
 }
 
 void Repaint(Control_Ref control) {
@@ -52,7 +61,6 @@ void Repaint(Control_Ref control) {
 void Set_Checked(Control_Ref control, bool checked) {
     QAbstractButton* button = Find_Choice(control);
     if (button == nullptr || button->isChecked() == checked) return;
-    const QSignalBlocker blocker(button);
     const bool is_option = button->autoExclusive();
     // An exclusive button can only be cleared by another's choice, unless it is not exclusive.
     if (is_option && !checked) button->setAutoExclusive(false);

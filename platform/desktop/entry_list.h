@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QListView>
+#include <QMouseEvent>
 #include <QStringListModel>
+#include <functional>
 
 namespace platform::desktop {
 
@@ -21,6 +23,19 @@ class Entry_List final : public QListView {
     int Picked() const {
         const QModelIndexList rows = selectionModel()->selectedRows();
         return rows.isEmpty() ? -1 : rows.front().row();
+    }
+
+    std::function<void()> double_clicked;  ///< also beside the entries
+
+  protected:
+    /// A click beside the entries leaves the selection.
+    void mousePressEvent(QMouseEvent* event) override {
+        if (indexAt(event->pos()).isValid()) QListView::mousePressEvent(event);
+    }
+
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        QListView::mouseDoubleClickEvent(event);
+        if (double_clicked) double_clicked();
     }
 
   private:

@@ -68,6 +68,7 @@ Folder_List::Folder_List(QWidget* parent)
     : QWidget(parent), place(new QLabel(this)), list(new QListWidget(this)) {
     place->setTextFormat(Qt::PlainText);
     setFocusProxy(list);
+    setFocusPolicy(list->focusPolicy());  // the proxy's own does not count in the order of Tab
     list->setUniformItemSizes(true);
     list->setTextElideMode(Qt::ElideNone);
     connect(list, &QListWidget::itemActivated, this,

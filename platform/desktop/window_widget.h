@@ -47,6 +47,7 @@ class Window_Widget final : public QWidget {
     QMenuBar* menu_bar = nullptr;
     Canvas* canvas = nullptr;
     std::vector<Live_Control> controls;
+    QWidget* lost_focus = nullptr;  ///< disabled while it had the focus
 
   protected:
     bool event(QEvent* event) override;
