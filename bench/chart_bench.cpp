@@ -45,7 +45,8 @@ void Read_Scenery(const std::string& folder) {
     Resolve_Local_Paths({});
     for (const Scenery_Area& area : scenery_areas) {
         if (area.local.empty()) continue;
-        for (const std::string& name : platform::File_Names(area.local, ".bgl")) {
+        const auto names = platform::File_Names(area.local, ".bgl");
+        for (const std::string& name : names.value()) {
             current_file = area.local + "\\" + name;
             if (platform::Read_File(current_file, bgl_bytes, 1)) Walk_Bgl();
         }

@@ -141,7 +141,8 @@ void Prepare_Scan(const Folders& folders) {
     Resolve_Local_Paths({});
     for (const Scenery_Area& area : scenery_areas) {
         if (area.local.empty()) continue;
-        for (const std::string& name : platform::File_Names(area.local, ".bgl")) {
+        const auto names = platform::File_Names(area.local, ".bgl");
+        for (const std::string& name : names.value()) {
             Image image{.path = area.local + "\\" + name, .bytes = {}};
             if (!platform::Read_File(image.path, image.bytes, 1)) Give_Up(image.path);
             total_bytes += image.bytes.size() - 1;

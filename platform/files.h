@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -29,10 +30,11 @@ bool File_Exists(std::string_view path);
 bool Folder_Exists(std::string_view path);
 
 /// Names of the ordinary files of a folder, not of its subfolders, that end in `ending` in any
-/// case (".bgl", say), in the order of their lower-case bytes. A character that Windows-1252 does
-/// not have comes as "?", so that such a file is counted but cannot be opened. Empty if the folder
-/// cannot be read.
-std::vector<std::string> File_Names(std::string_view folder, std::string_view ending);
+/// case (".bgl", say): as the file system has them, in the order of their lower-case bytes, then of
+/// the names as they are. A character that Windows-1252 does not have comes as "?", so that such a
+/// file is counted but cannot be opened. Nothing if the folder cannot be read.
+std::optional<std::vector<std::string>> File_Names(std::string_view folder,
+                                                   std::string_view ending);
 
 /// Reads the whole file and adds `spare` zero bytes behind it. On failure (no file, no right to
 /// read it, a read error) `bytes` is left empty and the answer is false.

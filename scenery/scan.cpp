@@ -75,11 +75,15 @@ bool Read_Catalogue() {
     return true;
 }
 
+std::vector<std::string> Bgl_Names(const std::string& folder) {
+    return platform::File_Names(folder, Bgl_Ending).value_or(std::vector<std::string>());
+}
+
 void Count_Files() {
     bgl_total = 0;
     for (const Scenery_Area& area : scenery_areas) {
         if (area.local.empty()) continue;
-        bgl_total += static_cast<std::int32_t>(platform::File_Names(area.local, Bgl_Ending).size());
+        bgl_total += static_cast<std::int32_t>(Bgl_Names(area.local).size());
     }
 }
 
@@ -141,7 +145,7 @@ void Scan_Bgls_Timer() {
     form3::Set_Status(area.title.c_str());
     if (area.local != current_folder) {
         current_folder = area.local;
-        folder_files = platform::File_Names(current_folder, Bgl_Ending);
+        folder_files = Bgl_Names(current_folder);
         next_file = 0;
     }
     if (next_file == folder_files.size()) {

@@ -86,7 +86,8 @@ void headless::Move_Folder_List(Control_Ref control, const std::string& whole_pa
 }
 
 std::vector<std::string> headless::Subfolders(std::string_view path) {
-    return posix::Names_In(posix::Native_Path(path), posix::Entry_Kind::Folder);
+    return posix::Names_In(posix::Native_Path(path), posix::Entry_Kind::Folder)
+        .value_or(std::vector<std::string>());
 }
 
 std::string Folder_Path(Control_Ref control) {

@@ -77,10 +77,12 @@ bool Folder_Exists(std::string_view path) {
     return status && S_ISDIR(status->st_mode);
 }
 
-std::vector<std::string> File_Names(std::string_view folder, std::string_view ending) {
+std::optional<std::vector<std::string>> File_Names(std::string_view folder,
+                                                   std::string_view ending) {
     auto names = posix::Names_In(Native_Path(folder), posix::Entry_Kind::File);
+    if (!names) return std::nullopt;
     const std::string lower_ending = Lower_Case(ending);
-    std::erase_if(names, [&lower_ending](const std::string& name) {
+    std::erase_if(*names, [&lower_ending](const std::string& name) {
         return !Lower_Case(name).ends_with(lower_ending);
     });
     return names;

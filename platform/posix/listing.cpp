@@ -1,6 +1,7 @@
 #include "platform/posix/listing.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <ctime>
 #include <dirent.h>
 #include <memory>
@@ -14,15 +15,18 @@ namespace platform::posix {
 
 namespace {
 
-/// Calls `visit(entry)` for each name in the folder; nothing if it cannot be read.
+/// Calls `visit(entry)` for each name in the folder; false if it cannot be read to its end.
 template <typename Visit>
-void For_Each_Entry(const std::string& native_folder, Visit visit) {
+bool For_Each_Entry(const std::string& native_folder, Visit visit) {
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(native_folder.c_str()), &closedir);
-    if (!stream) return;
+    if (!stream) return false;
+    errno = 0;  // tells a fault from the end of the folder
     while (const dirent* entry = readdir(stream.get())) {
         const std::string_view name = entry->d_name;
         if (name != "." && name != "..") visit(*entry, stream.get());
+        errno = 0;
     }
+    return errno == 0;
 }
 
 bool Is_Of_Kind(const dirent& entry, DIR* stream, Entry_Kind kind) {
@@ -69,14 +73,17 @@ std::unordered_map<std::string, Listing> listings;
 
 }  // namespace
 
-std::vector<std::string> Names_In(const std::string& native_folder, Entry_Kind kind) {
+std::optional<std::vector<std::string>> Names_In(const std::string& native_folder,
+                                                 Entry_Kind kind) {
     std::vector<std::pair<std::string, std::string>> keyed;
-    For_Each_Entry(native_folder, [&keyed, kind](const dirent& entry, DIR* stream) {
-        if (!Is_Of_Kind(entry, stream, kind)) return;
-        std::string name = From_Utf8_Lossy(entry.d_name);
-        std::string lower = Lower_Case(name);
-        keyed.emplace_back(std::move(lower), std::move(name));
-    });
+    const bool read =
+        For_Each_Entry(native_folder, [&keyed, kind](const dirent& entry, DIR* stream) {
+            if (!Is_Of_Kind(entry, stream, kind)) return;
+            std::string name = From_Utf8_Lossy(entry.d_name);
+            std::string lower = Lower_Case(name);
+            keyed.emplace_back(std::move(lower), std::move(name));
+        });
+    if (!read) return std::nullopt;
     std::sort(keyed.begin(), keyed.end());
     std::vector<std::string> names;
     names.reserve(keyed.size());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,8 +13,8 @@ enum class Entry_Kind : std::uint8_t { File, Folder };
 
 /// Names of the ordinary files or of the subfolders of a folder, links followed, in Windows-1252
 /// with "?" for what it does not have, in the order of their lower-case bytes (of equal ones, of
-/// the names as they are). Empty if the folder cannot be read.
-std::vector<std::string> Names_In(const std::string& native_folder, Entry_Kind kind);
+/// the names as they are). Nothing if the folder cannot be read.
+std::optional<std::vector<std::string>> Names_In(const std::string& native_folder, Entry_Kind kind);
 
 /// The native name of the first entry, in that order, whose name is `name` in any case; empty if
 /// there is none. `name` is Windows-1252. Listings are kept while their folder stays unchanged, so

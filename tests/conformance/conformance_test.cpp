@@ -494,7 +494,8 @@ TEST_F(Conformance, A_Page_Has_Its_Sheet_And_Its_Lines_And_Ends_Once) {
         EXPECT_TRUE(End_Document());
         EXPECT_FALSE(End_Document());
     }
-    for (const std::string& name : File_Names("", ".pdf"))
+    const auto names = File_Names("", ".pdf");
+    for (const std::string& name : names.value())
         Delete_File(name);
 }
 

@@ -70,7 +70,8 @@ TEST(Files, Names_Come_In_The_Order_Of_Their_Small_Letters_Without_Folders_And_O
                                             "C_.bgl", "CB.Bgl", "link.bgl", "\xC9.bgl"};
     EXPECT_EQ(File_Names("", ".bgl"), names);
     EXPECT_FALSE(File_Exists("?.bgl"));
-    EXPECT_TRUE(File_Names("none", ".bgl").empty());
+    EXPECT_EQ(File_Names("none", ".bgl"), std::nullopt);
+    EXPECT_EQ(File_Names("b.bgl", ""), std::nullopt);
 }
 
 TEST(Files, A_Failed_Write_Leaves_The_Old_File_And_Nothing_Else) {
