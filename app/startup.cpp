@@ -38,6 +38,8 @@ void Decide_Start() {
         platform::End_Program();
         return;
     }
+    for (const char* name : {Settings_File, Airports_File, Airspaces_File})
+        platform::Remove_Leftovers(Own_File(name));
     if (!All_Own_Files_Exist()) {
         Begin_Setup();
         return;

@@ -11,10 +11,11 @@
 /// Files and folders by the program's own paths.
 ///
 /// A path is Windows-1252 text whose folders are parted by "\" or "/", in any mixture; separators
-/// in a row count as one. It starts at the root if it starts with a separator, else at the working
-/// folder. On a file system that minds case each name is found in any case, an exact match first,
-/// then the first in the order of `File_Names`. A path that names nothing is no error in itself:
-/// each operation says what it answers then.
+/// in a row count as one, and "." and ".." are followed by the text alone. It starts at the root if
+/// it starts with a separator, else at the working folder. On a file system that minds case each
+/// name is found in any case, an exact match first, then the others in the order of `File_Names`: a
+/// folder in which the rest of the path is not found is left for the next one. A path that names
+/// nothing is no error in itself: each operation says what it answers then.
 namespace platform {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -36,6 +37,11 @@ bool Folder_Exists(std::string_view path);
 std::optional<std::vector<std::string>> File_Names(std::string_view folder,
                                                    std::string_view ending);
 
+/// Names of the subfolders of a folder, "." and ".." left out, in the order of `File_Names` but in
+/// UTF-8, so that a user can be shown what Windows-1252 does not have. Empty if the folder cannot
+/// be read.
+std::vector<std::string> Subfolders(std::string_view folder);
+
 /// Reads the whole file and adds `spare` zero bytes behind it. On failure (no file, no right to
 /// read it, a read error) `bytes` is left empty and the answer is false.
 bool Read_File(std::string_view path, Bytes& bytes, std::size_t spare = 0);
@@ -43,10 +49,16 @@ bool Read_File(std::string_view path, Bytes& bytes, std::size_t spare = 0);
 /// Reads just `part.size()` bytes from `offset` on; false if the file does not hold that many.
 bool Read_File_Part(std::string_view path, std::size_t offset, std::span<std::uint8_t> part);
 
-/// Writes the whole file: to a temporary name beside it, to the disk, then renamed over the old
-/// one, so that a failure leaves the old file as it was and no other file behind. Answers an empty
-/// text, or the reason of the failure in the platform's words.
+/// Writes the whole file: to a temporary name beside it ("NAME.PROCESS.tmp", with the process's
+/// number), to the disk, then renamed over the old one, and the folder to the disk. A failure
+/// leaves the old file as it was and no other file behind; a process that is ended meanwhile leaves
+/// the temporary file. Leftovers of the file are removed first. Answers an empty text, or the
+/// reason of the failure in the platform's words.
 std::string Write_File(std::string_view path, std::span<const std::uint8_t> bytes);
+
+/// Removes the temporary files beside a file that processes which have ended while writing it have
+/// left; one that any process is still writing stays. Failures are ignored.
+void Remove_Leftovers(std::string_view path);
 
 /// Deletes a file; failures are ignored.
 void Delete_File(std::string_view path);

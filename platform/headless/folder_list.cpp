@@ -1,11 +1,10 @@
 #include "platform/headless/folder_list.h"
 
+#include "platform/code_page.h"
 #include "platform/controls.h"
 #include "platform/files.h"
 #include "platform/headless/form.h"
 #include "platform/headless/program.h"
-#include "platform/posix/listing.h"
-#include "platform/posix/native_path.h"
 
 namespace platform {
 
@@ -86,8 +85,10 @@ void headless::Move_Folder_List(Control_Ref control, const std::string& whole_pa
 }
 
 std::vector<std::string> headless::Subfolders(std::string_view path) {
-    return posix::Names_In(posix::Native_Path(path), posix::Entry_Kind::Folder)
-        .value_or(std::vector<std::string>());
+    std::vector<std::string> names;
+    for (const std::string& name : platform::Subfolders(path))
+        names.push_back(From_Utf8_Lossy(name));
+    return names;
 }
 
 std::string Folder_Path(Control_Ref control) {

@@ -2,42 +2,40 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <new>
-#include <optional>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/code_page.h"
 #include "platform/posix/descriptor.h"
-#include "platform/posix/listing.h"
 #include "platform/posix/native_path.h"
 
 namespace platform {
 
 namespace {
 
+namespace fs = std::filesystem;
 using posix::Descriptor;
+using posix::Entry_Kind;
 using posix::Native_Path;
-
-std::optional<struct stat> Status_Of(std::string_view path) {
-    struct stat status {};
-    if (stat(Native_Path(path).c_str(), &status) != 0) return std::nullopt;
-    return status;
-}
 
 /// Never waits, also where a pipe or a device stands under the name.
 Descriptor Open_To_Read(std::string_view path) {
     return Descriptor(open(Native_Path(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
 }
 
-/// Size of an open ordinary file; nothing for anything else and for what no address can reach.
+/// Size of an open ordinary file; nothing for anything else and for a longer one than may be.
 std::optional<std::size_t> Size_Of(const Descriptor& file) {
     struct stat status {};
     if (file.Get() < 0 || fstat(file.Get(), &status) != 0) return std::nullopt;
-    if (!S_ISREG(status.st_mode) || status.st_size < 0) return std::nullopt;
-    if (static_cast<std::uint64_t>(status.st_size) > Largest_File) return std::nullopt;
-    return static_cast<std::size_t>(status.st_size);
+    const auto size = static_cast<std::size_t>(status.st_size);
+    if (!S_ISREG(status.st_mode) || size > Largest_File) return std::nullopt;
+    return size;
 }
 
 /// Reads until the part is full or the file ends. The bytes read; nothing on an error.
@@ -47,7 +45,6 @@ std::optional<std::size_t> Read_At(const Descriptor& file, std::size_t offset,
     while (done < part.size()) {
         const ssize_t count = pread(file.Get(), part.data() + done, part.size() - done,
                                     static_cast<off_t>(offset + done));
-        if (count < 0 && errno == EINTR) continue;
         if (count < 0) return std::nullopt;
         if (count == 0) break;
         done += static_cast<std::size_t>(count);
@@ -55,56 +52,107 @@ std::optional<std::size_t> Read_At(const Descriptor& file, std::size_t offset,
     return done;
 }
 
-bool Try_Resize(Bytes& bytes, std::size_t size) {
+bool Read_Whole(const Descriptor& file, Bytes& bytes, std::size_t spare) {
+    const auto size = Size_Of(file);
+    if (!size) return false;
     try {
-        if (bytes.capacity() < size) bytes.clear();  // nothing to carry over to the new place
-        bytes.resize(size);
-        return true;
-    } catch (const std::exception&) {  // too long for the memory or for a vector
+        // What the buffer held is overwritten, not cleared first: a buffer that serves one file
+        // after the other is not filled with zeros ahead of each.
+        bytes.resize(*size + spare);
+    } catch (const std::bad_alloc&) {
         return false;
     }
+    const auto done = Read_At(file, 0, std::span(bytes).first(*size));
+    if (!done) return false;
+    bytes.resize(*done + spare);  // shorter if the file has shrunk since it was opened
+    std::fill(bytes.end() - static_cast<std::ptrdiff_t>(spare), bytes.end(), std::uint8_t{0});
+    return true;
+}
+
+/// The file that a path leads to: behind a link, so that the file is replaced and the link stays.
+fs::path File_To_Replace(std::string_view path) {
+    std::error_code error;
+    const fs::path native = fs::absolute(Native_Path(path), error);
+    const fs::path target = fs::canonical(native, error);
+    return error ? native : target;
+}
+
+/// Whether `name` is `file`, a dot, the number of a process and ".tmp".
+bool Is_Temporary(std::string_view name, const std::string& file) {
+    if (!name.starts_with(file + ".")) return false;
+    name.remove_prefix(file.size() + 1);
+    const std::size_t number = name.find_first_not_of("0123456789");
+    return number != 0 && number != std::string_view::npos && name.substr(number) == ".tmp";
+}
+
+/// A lock tells which of them are still being written, whoever bears the number now.
+void Remove_Leftovers_Of(const fs::path& file) {
+    const auto entries = posix::Entries(file.parent_path(), Entry_Kind::File);
+    for (const auto& entry : entries.value_or(std::vector<posix::Entry>())) {
+        if (!Is_Temporary(entry.native, file.filename())) continue;
+        const fs::path temporary = file.parent_path() / entry.native;
+        const Descriptor left(open(temporary.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW));
+        if (flock(left.Get(), LOCK_EX | LOCK_NB) == 0) unlink(temporary.c_str());
+    }
+}
+
+bool Write_All(int file, std::span<const std::uint8_t> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = write(file, bytes.data(), bytes.size());
+        if (count < 0) return false;
+        bytes = bytes.subspan(static_cast<std::size_t>(count));
+    }
+    return true;
+}
+
+/// Writes the temporary file and gives it the file's name, holding its lock all the while.
+bool Replace(const fs::path& file, const std::string& temporary,
+             std::span<const std::uint8_t> bytes) {
+    const Descriptor fresh(open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (fresh.Get() < 0) return false;
+    // Where the file system has no locks or no rights of access, the file is written without.
+    static_cast<void>(flock(fresh.Get(), LOCK_EX | LOCK_NB));
+    struct stat old {};
+    if (stat(file.c_str(), &old) == 0) static_cast<void>(fchmod(fresh.Get(), old.st_mode & 07777));
+    return Write_All(fresh.Get(), bytes) && fsync(fresh.Get()) == 0 &&
+           std::rename(temporary.c_str(), file.c_str()) == 0;
 }
 
 }  // namespace
 
 bool File_Exists(std::string_view path) {
-    const auto status = Status_Of(path);
-    return status && S_ISREG(status->st_mode);
+    std::error_code error;
+    return fs::is_regular_file(Native_Path(path), error);
 }
 
 bool Folder_Exists(std::string_view path) {
-    const auto status = Status_Of(path);
-    return status && S_ISDIR(status->st_mode);
+    std::error_code error;
+    return fs::is_directory(Native_Path(path), error);
 }
 
 std::optional<std::vector<std::string>> File_Names(std::string_view folder,
                                                    std::string_view ending) {
-    auto names = posix::Names_In(Native_Path(folder), posix::Entry_Kind::File);
-    if (!names) return std::nullopt;
-    const std::string lower_ending = Lower_Case(ending);
-    std::erase_if(*names, [&lower_ending](const std::string& name) {
-        return !Lower_Case(name).ends_with(lower_ending);
-    });
+    const auto entries = posix::Entries(Native_Path(folder), Entry_Kind::File);
+    if (!entries) return std::nullopt;
+    std::vector<std::string> names;
+    for (const auto& entry : *entries) {
+        if (entry.lower.ends_with(Lower_Case(ending))) names.push_back(entry.name);
+    }
+    return names;
+}
+
+std::vector<std::string> Subfolders(std::string_view folder) {
+    std::vector<std::string> names;
+    const auto entries = posix::Entries(Native_Path(folder), Entry_Kind::Folder);
+    for (const auto& entry : entries.value_or(std::vector<posix::Entry>()))
+        names.push_back(entry.native);
     return names;
 }
 
 bool Read_File(std::string_view path, Bytes& bytes, std::size_t spare) {
-    const Descriptor file = Open_To_Read(path);
-    const auto size = Size_Of(file);
-    // What the buffer held is overwritten, not cleared first: a buffer that serves one file after
-    // the other is not filled with zeros ahead of each.
-    if (!size || spare > Largest_File || !Try_Resize(bytes, *size + spare)) {
-        bytes.clear();
-        return false;
-    }
-    const auto done = Read_At(file, 0, std::span(bytes).first(*size));
-    if (!done) {
-        bytes.clear();
-        return false;
-    }
-    bytes.resize(*done + spare);  // shorter if the file has shrunk since it was opened
-    std::fill(bytes.end() - static_cast<std::ptrdiff_t>(spare), bytes.end(), std::uint8_t{0});
-    return true;
+    const bool read = Read_Whole(Open_To_Read(path), bytes, spare);
+    if (!read) bytes.clear();
+    return read;
 }
 
 bool Read_File_Part(std::string_view path, std::size_t offset, std::span<std::uint8_t> part) {
@@ -112,6 +160,25 @@ bool Read_File_Part(std::string_view path, std::size_t offset, std::span<std::ui
     const auto size = Size_Of(file);
     if (!size || offset > *size || part.size() > *size - offset) return false;
     return Read_At(file, offset, part) == part.size();
+}
+
+std::string Write_File(std::string_view path, std::span<const std::uint8_t> bytes) {
+    const fs::path file = File_To_Replace(path);
+    const std::string temporary = file.string() + "." + std::to_string(getpid()) + ".tmp";
+    Remove_Leftovers_Of(file);
+    if (!Replace(file, temporary, bytes)) {
+        const int reason = errno;
+        unlink(temporary.c_str());
+        return std::strerror(reason);
+    }
+    // The new file stands, whatever comes of this: some file systems cannot sync a folder.
+    const Descriptor folder(open(file.parent_path().c_str(), O_RDONLY | O_CLOEXEC));
+    static_cast<void>(fsync(folder.Get()));
+    return {};
+}
+
+void Remove_Leftovers(std::string_view path) {
+    Remove_Leftovers_Of(File_To_Replace(path));
 }
 
 void Delete_File(std::string_view path) {

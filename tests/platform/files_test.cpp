@@ -46,6 +46,20 @@ TEST(Files, Names_Are_Found_In_Any_Case_The_Exact_One_First) {
     EXPECT_FALSE(File_Exists("Scenery"));
 }
 
+TEST(Files, A_Folder_Without_The_Rest_Of_The_Path_Is_Left_For_The_Next_In_Another_Case) {
+    const Scratch_Folder scratch;
+    Scratch_Folder::Put("Data/FS2002/fs2002.exe", "right");
+    Scratch_Folder::Put("Data/Scenery/x", "");
+    Scratch_Folder::Put("data/fs2002/other", "");
+    Scratch_Folder::Put("dATA", "a file");
+    EXPECT_EQ(Content("data\\fs2002\\fs2002.exe"), "right");
+    EXPECT_EQ(Content("DATA/fs2002/../fs2002/FS2002.EXE"), "right");
+    // What is new goes where the way gets furthest, of equal ones the first.
+    EXPECT_EQ(Write_File("data/scenery/New", Bytes{}) + Write_File("DATA/New", Bytes{}), "");
+    EXPECT_TRUE(std::filesystem::exists("Data/Scenery/New"));
+    EXPECT_TRUE(std::filesystem::exists("Data/New"));
+}
+
 TEST(Files, A_File_Made_After_A_Look_Into_Its_Folder_Is_Found) {
     const Scratch_Folder scratch;
     for (const std::string name : {"b", "c"}) {
