@@ -15,7 +15,7 @@
 #include "chart/current_chart.h"
 #include "chart/form4.h"
 #include "chart/printing.h"
-#include "platform/desktop/handlers.h"
+#include "platform/desktop/program.h"
 #include "platform/files.h"
 #include "platform/printer.h"
 #include "platform/program.h"

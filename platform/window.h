@@ -56,8 +56,9 @@ struct Font {
 struct Control {
     const char* name;
     Control_Kind kind;
-    /// Name of the frame that holds the control, or of the menu that an entry stands in;
-    /// empty for the window itself (and for the titles of the menu bar).
+    /// Name of the frame that holds the control, which stands ahead of it in the table, or of the
+    /// menu that an entry stands in; empty for the window itself (and for the titles of the menu
+    /// bar).
     const char* in = "";
     Box at = {};
     /// Caption, or the first text of a text or combo box.

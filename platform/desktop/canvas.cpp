@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "platform/desktop/fonts.h"
-#include "platform/desktop/handlers.h"
+#include "platform/desktop/program.h"
 
 namespace platform::desktop {
 

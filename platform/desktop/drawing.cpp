@@ -3,8 +3,8 @@
 #include "platform/desktop/device.h"
 #include "platform/desktop/shapes.h"
 #include "platform/desktop/strokes.h"
-#include "platform/desktop/window_widget.h"
-#include "platform/desktop/windows.h"
+#include "platform/desktop/windows/window_widget.h"
+#include "platform/desktop/windows/windows.h"
 
 namespace platform {
 

@@ -11,13 +11,12 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
-#include "platform/desktop/application.h"
-#include "platform/desktop/handlers.h"
-#include "platform/desktop/keys.h"
+#include "platform/desktop/keys/keys.h"
+#include "platform/desktop/program.h"
 #include "platform/desktop/scale.h"
 #include "platform/desktop/text.h"
-#include "platform/desktop/window_widget.h"
-#include "platform/desktop/windows.h"
+#include "platform/desktop/windows/window_widget.h"
+#include "platform/desktop/windows/windows.h"
 #include "tests/conformance/driver.h"
 
 namespace driver {

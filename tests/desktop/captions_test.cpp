@@ -15,7 +15,7 @@
 #include "chart/form4.h"
 #include "keys/form7.h"
 #include "keys/form8.h"
-#include "platform/desktop/window_widget.h"
+#include "platform/desktop/windows/window_widget.h"
 #include "selection/form3.h"
 
 namespace skerrand {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "platform/desktop/keys.h"
+#include "platform/desktop/keys/keys.h"
 #include "platform/keys.h"
 
 namespace platform::desktop {
