@@ -12,9 +12,9 @@ namespace {
 using desktop::Live_Control;
 
 /// A timer of fewer milliseconds is one that asks again and again. Its interval is stretched, so
-/// that it leaves the processor to others; nobody holds a key for less than that.
+/// that it leaves the processor to others: a key press lasts 50 ms and more.
 constexpr int Shortest_Interval = 5;
-constexpr int Asking_Interval = 10;
+constexpr int Asking_Interval = 20;
 
 void Start_Interval(const Live_Control& control) {
     if (control.running && control.interval > 0) {
