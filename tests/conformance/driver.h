@@ -52,7 +52,7 @@ void Key(int code, bool down);
 bool Has_Screen();
 
 /// Presses a key in the window, as if it were the active one.
-enum Stroke { Tab, Enter, Space };
+enum Stroke { Tab, Enter };
 void Press_Key(const platform::Window& window, Stroke key);
 
 /// The name of the control that has the window's focus; empty if none has.

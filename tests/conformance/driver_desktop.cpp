@@ -175,9 +175,9 @@ bool Has_Screen() {
 }
 
 void Press_Key(const Window& window, Stroke key) {
-    constexpr Qt::Key keys[] = {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Space};
     QWidget* widget = desktop::Find_Window(window);
-    QTest::keyClick(widget->focusWidget() != nullptr ? widget->focusWidget() : widget, keys[key]);
+    if (widget->focusWidget() != nullptr) widget = widget->focusWidget();
+    QTest::keyClick(widget, key == Tab ? Qt::Key_Tab : Qt::Key_Return);
 }
 
 std::string Focus(const Window& window) {

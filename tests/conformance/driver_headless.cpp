@@ -127,7 +127,7 @@ Colour Pixel(const Window& window, int x, int y) {
         const auto& [left, top, width, height] = window.controls[i].at;
         const bool covers = window.controls[i].kind == Control_Kind::Label && x * 15 >= left &&
                             x * 15 < left + width && y * 15 >= top && y * 15 < top + height;
-        if (covers && !form->controls[i].transparent) colour = {212, 208, 200};
+        if (covers && !form->controls[i].transparent) colour = {};
     }
     return colour;
 }

@@ -67,18 +67,19 @@ inline constexpr platform::Control main_controls[] = {
     {"Slow", Timer, "", {}, "", Count<&Counts::slow_ticks>, 200, false},
 };
 
-inline constexpr platform::Window Main_Window = {.name = "Main_Window",
-                                                 .caption = "Main",
-                                                 .client_width = 6000,
-                                                 .client_height = 4800,
-                                                 .controls = main_controls,
-                                                 .frame = platform::Frame_Style::Sizable,
-                                                 .back_colour = platform::Colour_White,
-                                                 .fore_colour = {0, 192, 0},
-                                                 .load = Count<&Counts::loads>,
-                                                 .unload = Count<&Counts::unloads>,
-                                                 .resize = Main_Resize,
-                                                 .mouse_down = Take_Press};
+using enum platform::Frame_Style;
+inline constexpr platform::Window Main_Window = {"Main_Window",
+                                                 "Main",
+                                                 6000,
+                                                 4800,
+                                                 main_controls,
+                                                 Sizable,
+                                                 platform::Colour_White,
+                                                 platform::Colour{0, 192, 0},
+                                                 Count<&Counts::loads>,
+                                                 Count<&Counts::unloads>,
+                                                 Main_Resize,
+                                                 Take_Press};
 
 // Out of the order of the places on the screen: the Tab key goes by the table.
 inline constexpr platform::Control second_controls[] = {
@@ -90,20 +91,12 @@ inline constexpr platform::Control second_controls[] = {
     {"Button1", Button, "", {0, 2600, 600, 300}, "", Count<&Counts::clicks>},
     {.name = "Button2", .kind = Button, .at = {900, 2600, 600, 300}, .tab_index = 0},
 };
-inline constexpr platform::Window Second_Window = {.name = "Second_Window",
-                                                   .caption = "Second",
-                                                   .client_width = 3000,
-                                                   .client_height = 3000,
-                                                   .controls = second_controls,
-                                                   .load = Load_Second};
-
-inline constexpr platform::Window Key_Window = {.name = "Key_Window",
-                                                .caption = "Keys",
-                                                .client_width = 3000,
-                                                .client_height = 3000,
-                                                .controls = second_controls,
-                                                .frame = platform::Frame_Style::Dialog,
-                                                .takes_keys = true};
+constexpr platform::Colour Grey = {212, 208, 200};
+inline constexpr platform::Window Second_Window = {
+    "Second_Window", "Second", 3000, 3000, second_controls, Fixed, Grey, {}, Load_Second};
+inline constexpr platform::Window Key_Window = {
+    "Key_Window", "Keys",  3000,    3000,    second_controls, Dialog, Grey,
+    {},           nullptr, nullptr, nullptr, nullptr,         true};
 
 consteval platform::Control_Ref Main(std::string_view name) {
     return platform::Find_Control(Main_Window, name);

@@ -7,6 +7,7 @@ env -u DISPLAY "$bin/skerrand" 2> no_display.txt
 
 begin skerrand
 window Settings
+touch skerrand_config.cfg # which the window's closing takes away again
 end_by HUP
 [ ! -e skerrand_config.cfg ] || fail "a setup that was not finished leaves settings"
 

@@ -80,8 +80,9 @@ QWidget* New_Button(QWidget* holder) {
 QWidget* New_Option(QWidget* holder) {
     auto* button = new QRadioButton(holder);
     // The Tab key goes to the selected one alone.
-    QObject::connect(button, &QRadioButton::toggled, holder, [button](bool checked) {
-        button->setFocusPolicy(checked ? Qt::StrongFocus : Qt::ClickFocus);
+    QObject::connect(button, &QRadioButton::toggled, holder, [holder] {
+        for (auto* each : holder->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
+            each->setFocusPolicy(each->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
     });
     return button;
 }
