@@ -72,7 +72,7 @@ struct Control {
     /// Whether the control takes input; for a timer, whether it runs from the load on.
     bool enabled = true;
     bool read_only = false;    ///< text box: the user cannot type in it
-    bool multi_line = false;   ///< text box: several lines with a vertical scroll bar
+    bool multi_line = false;   ///< text box: several lines, only to be read, with a scroll bar
     bool centred = false;      ///< text box: the text is centred
     bool sorted = false;       ///< combo, list: entries are kept in the order of their bytes
     bool transparent = false;  ///< label: the background shows through

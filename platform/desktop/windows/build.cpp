@@ -10,7 +10,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyle>
+#include <QStyleOption>
 #include <algorithm>
 
 #include "platform/desktop/fonts.h"
@@ -87,33 +87,23 @@ QWidget* New_Option(QWidget* holder) {
     return button;
 }
 
-/// Takes over what the user has typed. Lines are parted by a carriage return and a line feed inside
-/// the program.
-void Take_Typed(Live_Control& control, QString typed) {
-    typed.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    std::string text = From_Qt_Lossy(typed);
-    if (text == control.text) return;
-    control.text = std::move(text);
-    Fire(control);
-}
-
 QWidget* New_Line(Live_Control& control, QWidget* holder) {
     auto* line = new QLineEdit(holder);
     line->setReadOnly(control.row->read_only);
     if (control.row->centred) line->setAlignment(Qt::AlignCenter);
     line->setValidator(new Code_Page_Validator(line));
-    QObject::connect(line, &QLineEdit::textEdited, holder,
-                     [&control](const QString& typed) { Take_Typed(control, typed); });
+    QObject::connect(line, &QLineEdit::textEdited, holder, [&control](const QString& typed) {
+        control.text = From_Qt_Lossy(typed);
+        Fire(control);
+    });
     return line;
 }
 
-QWidget* New_Lines(Live_Control& control, QWidget* holder) {
+QWidget* New_Lines(QWidget* holder) {
     auto* lines = new QPlainTextEdit(holder);
-    lines->setReadOnly(control.row->read_only);
+    lines->setReadOnly(true);
     lines->setTabChangesFocus(true);
     lines->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    QObject::connect(lines, &QPlainTextEdit::textChanged, holder,
-                     [&control, lines] { Take_Typed(control, lines->toPlainText()); });
     return lines;
 }
 
@@ -126,19 +116,6 @@ QWidget* New_Combo(const Control& row, QWidget* holder) {
 QWidget* New_List(Live_Control& control, QWidget* holder) {
     auto* list = new Entry_List(holder);
     list->double_clicked = [&control] { Fire(control); };
-    return list;
-}
-
-QWidget* New_Progress(QWidget* holder) {
-    auto* bar = new QProgressBar(holder);
-    bar->setTextVisible(false);
-    return bar;
-}
-
-/// There are no drives here: the list stands empty.
-QWidget* New_Drive(QWidget* holder) {
-    auto* list = new QComboBox(holder);
-    list->setEnabled(false);
     return list;
 }
 
@@ -165,7 +142,7 @@ QWidget* New_Widget(Live_Control& control, QWidget* holder) {
         case Control_Kind::Button:
             return New_Button(holder);
         case Control_Kind::Text:
-            return row.multi_line ? New_Lines(control, holder) : New_Line(control, holder);
+            return row.multi_line ? New_Lines(holder) : New_Line(control, holder);
         case Control_Kind::Combo:
             return New_Combo(row, holder);
         case Control_Kind::List:
@@ -175,9 +152,9 @@ QWidget* New_Widget(Live_Control& control, QWidget* holder) {
         case Control_Kind::Option:
             return New_Option(holder);
         case Control_Kind::Progress:
-            return New_Progress(holder);
+            return new QProgressBar(holder);
         case Control_Kind::Drive:
-            return New_Drive(holder);
+            return new QComboBox(holder);
         case Control_Kind::Folder:
             return New_Folder(control, holder);
         default:
@@ -196,7 +173,8 @@ void Build_Widget(Live_Control& control) {
     control.widget = New_Widget(control, holder);
     control.widget->setFont(Control_Font(row.font));
     control.widget->setGeometry(To_Logical(row.at));
-    if (!row.enabled) control.widget->setEnabled(false);
+    // There are no drives here: their list stands empty.
+    control.widget->setEnabled(row.enabled && row.kind != Control_Kind::Drive);
     if (control.window->table.takes_keys) control.widget->setFocusPolicy(Qt::NoFocus);
     // A press on a control is none on the client area behind it.
     control.widget->setAttribute(Qt::WA_NoMousePropagation);
@@ -204,7 +182,9 @@ void Build_Widget(Live_Control& control) {
         QObject::connect(button, &QAbstractButton::clicked, holder, [&control] { Fire(control); });
     }
     Show_Caption(control, row.caption);
-    if (row.kind == Control_Kind::Text) {
+    if (row.kind == Control_Kind::Progress) {
+        static_cast<QProgressBar*>(control.widget)->setTextVisible(false);
+    } else if (row.kind == Control_Kind::Text) {
         control.text = row.caption;
         Show_Text(control);
     }
@@ -228,19 +208,14 @@ void Set_Tab_Order(const Window_Widget& window) {
     if (!order.empty()) order.front()->widget->setFocus();
 }
 
-/// What a button needs beside its caption.
-int Space_Beside(const QAbstractButton& button, Control_Kind kind) {
-    const QStyle& style = *button.style();
-    switch (kind) {
-        case Control_Kind::Check:
-            return style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &button) +
-                   style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &button);
-        case Control_Kind::Option:
-            return style.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &button) +
-                   style.pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, &button);
-        default:
-            return 2 * style.pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, &button);
-    }
+/// How wide a button's caption may be.
+int Caption_Room(const QAbstractButton& button, Control_Kind kind) {
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    const auto part = kind == Control_Kind::Check    ? QStyle::SE_CheckBoxContents
+                      : kind == Control_Kind::Option ? QStyle::SE_RadioButtonContents
+                                                     : QStyle::SE_PushButtonContents;
+    return button.style()->subElementRect(part, &option, &button).width();
 }
 
 /// A label breaks its caption into lines where it is high enough for two.
@@ -282,8 +257,7 @@ void Show_Caption(const Live_Control& control, std::string_view caption) {
     } else if (auto* frame = qobject_cast<QGroupBox*>(control.widget)) {
         frame->setTitle(Caption_To_Qt(caption));
     } else if (auto* button = qobject_cast<QAbstractButton*>(control.widget)) {
-        const QString text = To_Qt(caption);
-        Condense_To_Fit(*button, text, button->width() - Space_Beside(*button, kind));
+        Condense_To_Fit(*button, To_Qt(caption), Caption_Room(*button, kind));
         button->setText(Caption_To_Qt(caption));
     }
 }

@@ -7,8 +7,6 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
-#include <iterator>
-#include <vector>
 
 #include "platform/desktop/fonts.h"
 #include "platform/desktop/text.h"
@@ -35,17 +33,14 @@ QListView* New_List_View() {
 /// Width of a list that shows the entries in full. Only the longest by count are measured, for
 /// measuring takes far longer than anything else here.
 int List_Width(const QStringList& entries, const QAbstractItemView& view) {
-    constexpr std::ptrdiff_t Measured = 64;
-    std::vector<const QString*> longest;
+    qsizetype longest = 0;
     for (const QString& entry : entries)
-        longest.push_back(&entry);
-    const auto count = std::min(std::ssize(longest), Measured);
-    std::partial_sort(longest.begin(), longest.begin() + count, longest.end(),
-                      [](const QString* a, const QString* b) { return a->size() > b->size(); });
+        longest = std::max(longest, entry.size());
     const QFontMetrics metrics(view.font());
     int width = 0;
-    for (auto entry = longest.begin(); entry != longest.begin() + count; ++entry) {
-        width = std::max(width, metrics.horizontalAdvance(**entry));
+    for (const QString& entry : entries) {
+        if (entry.size() * 4 > longest * 3)
+            width = std::max(width, metrics.horizontalAdvance(entry));
     }
     return width + view.verticalScrollBar()->sizeHint().width() + metrics.averageCharWidth() * 3;
 }
