@@ -61,7 +61,8 @@ constexpr platform::Window window = {.name = "Form8",
                                      .controls = controls,
                                      .frame = platform::Frame_Style::Dialog,
                                      .load = Form_Load,
-                                     .unload = Form_Unload};
+                                     .unload = Form_Unload,
+                                     .takes_keys = true};
 
 namespace {
 

@@ -18,6 +18,8 @@ void Set_Caption(Control_Ref control, std::string_view caption);
 void Set_Text(Control_Ref control, std::string_view text);
 std::string Text_Of(Control_Ref control);
 
+/// A control that is disabled with the focus gives it to the next one that takes it, and has it
+/// again once it is enabled.
 void Set_Enabled(Control_Ref control, bool enabled);
 
 /// Brings the control up to date on the screen at once.

@@ -56,8 +56,9 @@ struct Font {
 struct Control {
     const char* name;
     Control_Kind kind;
-    /// Name of the frame that holds the control, or of the menu that an entry stands in;
-    /// empty for the window itself (and for the titles of the menu bar).
+    /// Name of the frame that holds the control, which stands ahead of it in the table, or of the
+    /// menu that an entry stands in; empty for the window itself (and for the titles of the menu
+    /// bar).
     const char* in = "";
     Box at = {};
     /// Caption, or the first text of a text or combo box.
@@ -71,13 +72,15 @@ struct Control {
     /// Whether the control takes input; for a timer, whether it runs from the load on.
     bool enabled = true;
     bool read_only = false;    ///< text box: the user cannot type in it
-    bool multi_line = false;   ///< text box: several lines with a vertical scroll bar
+    bool multi_line = false;   ///< text box: several lines, only to be read, with a scroll bar
     bool centred = false;      ///< text box: the text is centred
     bool sorted = false;       ///< combo, list: entries are kept in the order of their bytes
     bool transparent = false;  ///< label: the background shows through
     Font font = {};
     Colour colour = Colour_Black;  ///< of the text
-    /// Place in the order of the Tab key; -1 follows the table.
+    /// Place in the order of the Tab key, from 0; -1 comes behind all numbers, by the table. Of the
+    /// option buttons in one frame the key reaches the selected one alone. A window first shows
+    /// with the focus on the first control that takes it.
     int tab_index = -1;
 };
 
@@ -106,6 +109,9 @@ struct Window {
     Handler unload = nullptr;              ///< before the controls go, however it is closed
     Handler resize = nullptr;              ///< after its size or its minimised state has changed
     Mouse_Handler mouse_down = nullptr;    ///< a press on the client area beside the controls
+    /// The keys pressed in it are the program's to ask for (`GetAsyncKeyState`): none of its
+    /// controls takes the focus, so that a key moves nothing and presses no button.
+    bool takes_keys = false;
 };
 
 /// Names one control of one window.

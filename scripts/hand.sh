@@ -1,12 +1,28 @@
-# A user's hand and eye on an X screen, for scripts that source it. They set `pictures`, a folder,
-# and define `fail MESSAGE`, which ends the script.
+# A user's hand and eye on an X screen of their own, for scripts that source it. It starts the script
+# anew on such a screen with a window manager. The script sets `bin`, the folder of the programs, and
+# `pictures`, a folder, before it calls anything here.
 step=0
 id=
+begun=()
 
-# A picture of the whole screen.
+if [ -z "${ON_OWN_SCREEN:-}" ]; then
+    unset QT_QPA_PLATFORM QT_SCALE_FACTOR DISPLAY WAYLAND_DISPLAY
+    ON_OWN_SCREEN=yes exec xvfb-run --auto-servernum \
+        --server-args="-screen 0 1280x1024x24 -dpi 96" "$0" "$@"
+fi
+
+# Ends the script with a picture of the screen.
+fail() {
+    echo "FAILED: $1; $pictures/failure.png shows the screen" >&2
+    import -silent -window root "$pictures/failure.png"
+    exit 1
+}
+
+# A picture of the window at hand, with its frame.
 picture() {
     step=$((step + 1))
-    import -silent -window root "$(printf '%s/%02d-%s.png' "$pictures" $step "$1")"
+    sleep 0.5 # let it finish painting
+    import -silent -window "$id" -frame "$(printf '%s/%02d-%s.png' "$pictures" $step "$1")"
 }
 
 # Waits up to 30 seconds for a condition.
@@ -18,6 +34,26 @@ wait_for() {
     done
     fail "$1"
 }
+
+# begin PROGRAM [ARGUMENTS]: starts it and sets `program` to its process.
+begin() {
+    "$bin/$1" "${@:2}" &
+    program=$!
+    begun+=($program)
+}
+
+clean_up() {
+    kill "${begun[@]}" 2> /dev/null
+    rm -rf "$XDG_RUNTIME_DIR"
+}
+
+# Apart from the simulators that others run; in a place of a short name, for the sockets' sake.
+XDG_RUNTIME_DIR=$(mktemp -d) || exit 1
+export XDG_RUNTIME_DIR
+trap clean_up EXIT
+openbox --sm-disable > /dev/null 2>&1 &
+begun+=($!)
+wait_for "the window manager does not start" xdotool get_num_desktops
 
 shown() { xdotool search --onlyvisible --name "^$1\$" 2> /dev/null; }
 
@@ -36,8 +72,9 @@ click() {
     sleep 0.4
 }
 
+# Each is held for 80 ms, as by a quick finger.
 keys() {
-    xdotool key --delay 60 "$@"
+    xdotool key --delay 160 "$@"
     sleep 0.4
 }
 
@@ -45,18 +82,24 @@ keys() {
 answer() {
     window 'Skerrand Message'
     picture "$1"
-    xdotool mousemove --window "$id" 20 5
     keys Return
     wait_for "the message \"$1\" stays" eval '! shown "Skerrand Message" | grep -qx "$id"'
 }
 
-# pick TOP TEXT: finds an airport by typing a part of its name into the combo box at that height.
-pick() {
-    click 150 "$1"
-    keys ctrl+a
-    xdotool type --delay 40 "$2"
-    sleep 0.6
-    keys Down Return
+# choose DEPARTURE DESTINATION: finds both by parts of their names, beginning where the focus is, and
+# goes on to the chart.
+choose() {
+    local name
+    window 'Choosing an airport'
+    sleep 2.5
+    for name in "$@"; do
+        keys ctrl+a
+        xdotool type --delay 40 "$name"
+        sleep 0.6
+        keys Down Return Tab
+    done
+    picture choice
+    click 155 240
 }
 
 # menu LEFT ROW: the entry of that number in the menu at that place of the chart's menu bar.

@@ -31,22 +31,48 @@ long long Clock();
 /// The user's doings. What is disabled takes none of them. They have had their effect, and every
 /// handler that they call has returned, when the operation returns.
 void Click(platform::Control_Ref control);
-void Double_Click(platform::Control_Ref list);  ///< on the entry that is selected
+enum Spot { On_Selection, Below_Entries };
+void Double_Click(platform::Control_Ref list, Spot spot = On_Selection);
+/// Goes into a subfolder, by its place among them.
+void Enter_Folder(platform::Control_Ref folder_list, int index);
 void Pick(platform::Control_Ref list_or_combo, int index);
 void Type(platform::Control_Ref combo, const std::string& text);
 void Press(const platform::Window& window, platform::Mouse_Button button, int x, int y);
-void Resize(const platform::Window& window, int client_width, int client_height);  ///< pixels
-enum Deed { Minimise, Restore, Close };
+/// In pixels, by the edges of a frame that has edges to drag.
+void Resize(const platform::Window& window, int client_width, int client_height);
+/// `Maximise` presses that button where the frame has one.
+enum Deed { Minimise, Maximise, Restore, Close };
 void Do(Deed deed, const platform::Window& window);
 
-/// A key goes down or up while the window has the focus; of a letter, by its virtual-key code.
-void Key(const platform::Window& window, int code, bool down);
+/// A key goes down or up, whichever program has the focus; of a letter, by its virtual-key code.
+void Key(int code, bool down);
+
+/// Whether there is a screen, with a focus that keys go to and places of windows by their frame.
+/// Without one nobody asks for what stands below.
+bool Has_Screen();
+
+/// Presses a key in the window, as if it were the active one.
+enum Stroke { Tab, Enter };
+void Press_Key(const platform::Window& window, Stroke key);
+
+/// The name of the control that has the window's focus; empty if none has.
+std::string Focus(const platform::Window& window);
+
+/// Where the outer frame begins, in pixels of the screen, and whether it stays above all others.
+struct Frame {
+    int left, top;
+    bool topmost;
+
+    friend bool operator==(const Frame&, const Frame&) = default;
+};
+Frame Frame_Of(const platform::Window& window);
 
 /// A message box is answered by itself; where time passes meanwhile, after 300 ms.
 struct Message {
     platform::Icon icon;
     std::string title;
     std::string text;
+    bool topmost;  ///< where there is a screen; false elsewhere
 
     friend bool operator==(const Message&, const Message&) = default;
 };
@@ -54,7 +80,8 @@ struct Message {
 /// The messages shown since the start or the last call.
 std::vector<Message> Take_Messages();
 
-/// The colour at a pixel of the client area where no control stands, and no shape but a line.
+/// The colour at a pixel of the client area where no control stands but a label without a caption,
+/// and no shape but a line.
 platform::Colour Pixel(const platform::Window& window, int x, int y);
 
 }  // namespace driver

@@ -8,14 +8,15 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <gtest/gtest.h>
 
-#include "platform/desktop/application.h"
-#include "platform/desktop/handlers.h"
-#include "platform/desktop/scale.h"
 #include "platform/desktop/drawing/text.h"
-#include "platform/desktop/window_widget.h"
-#include "platform/desktop/windows.h"
+#include "platform/desktop/keys/keys.h"
+#include "platform/desktop/program.h"
+#include "platform/desktop/scale.h"
+#include "platform/desktop/windows/window_widget.h"
+#include "platform/desktop/windows/windows.h"
 #include "tests/conformance/driver.h"
 
 namespace driver {
@@ -44,8 +45,9 @@ void Answer() {
                       : box->icon() == QMessageBox::Warning   ? Icon::Exclamation
                                                               : Icon::Critical;
     const QString text = box->text().replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    messages.push_back(
-        {icon, desktop::From_Qt_Lossy(box->windowTitle()), desktop::From_Qt_Lossy(text)});
+    messages.push_back({icon, desktop::From_Qt_Lossy(box->windowTitle()),
+                        desktop::From_Qt_Lossy(text),
+                        box->windowFlags().testFlag(Qt::WindowStaysOnTopHint)});
     known = nullptr;
     QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
 }
@@ -94,11 +96,20 @@ void Click(Control_Ref control) {
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
 }
 
-void Double_Click(Control_Ref list) {
-    auto* view = static_cast<QListView*>(desktop::Find_Live(list)->widget);
-    const QPoint place = Place_Of_Entry(*view, view->currentIndex().row());
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseDClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+void Double_Click(QListView& view, QPoint place) {
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void Double_Click(Control_Ref list, Spot spot) {
+    auto& view = static_cast<QListView&>(*desktop::Find_Live(list)->widget);
+    Double_Click(view, spot == On_Selection ? Place_Of_Entry(view, view.currentIndex().row())
+                                            : view.viewport()->rect().bottomLeft() - QPoint(-5, 5));
+}
+
+void Enter_Folder(Control_Ref folder_list, int index) {
+    auto* view = desktop::Find_Live(folder_list)->widget->findChild<QListView*>();
+    Double_Click(*view, Place_Of_Entry(*view, index + 1));  // ".." comes first
 }
 
 void Pick(Control_Ref list_or_combo, int index) {
@@ -146,15 +157,44 @@ void Do(Deed deed, const Window& window) {
     Advance(20);  // The news of what was done before may still be on its way.
     Window_Widget* widget = desktop::Find_Window(window);
     if (deed == Minimise) widget->showMinimized();
+    const bool has_button = widget->windowFlags().testFlag(Qt::WindowMaximizeButtonHint);
+    if (deed == Maximise && has_button) widget->showMaximized();
     if (deed == Restore) widget->showNormal();
     if (deed == Close) widget->close();
     Advance(20);
 }
 
-void Key(const Window& window, int code, bool down) {
-    // The toolkit numbers letters as the codes do.
-    QTest::sendKeyEvent(down ? QTest::Press : QTest::Release, desktop::Find_Window(window),
-                        static_cast<Qt::Key>(code), QString(), Qt::NoModifier);
+// Straight to where the X server's events go: the tests with a real screen press real keys.
+void Key(int code, bool down) {
+    const auto key = static_cast<desktop::Key_Id>(code);
+    down ? desktop::Press_Key(key, {code}) : desktop::Release_Key(key);
+}
+
+bool Has_Screen() {
+    return true;
+}
+
+void Press_Key(const Window& window, Stroke key) {
+    QWidget* widget = desktop::Find_Window(window);
+    if (widget->focusWidget() != nullptr) widget = widget->focusWidget();
+    QTest::keyClick(widget, key == Tab ? Qt::Key_Tab : Qt::Key_Return);
+}
+
+std::string Focus(const Window& window) {
+    const Window_Widget* widget = desktop::Find_Window(window);
+    const QWidget* focus = widget->focusWidget();
+    for (; focus != nullptr; focus = focus->parentWidget()) {
+        for (const desktop::Live_Control& control : widget->controls)
+            if (control.widget == focus) return control.row->name;
+    }
+    return {};
+}
+
+Frame Frame_Of(const Window& window) {
+    const Window_Widget* widget = desktop::Find_Window(window);
+    const QPointF place = QPointF(widget->frameGeometry().topLeft()) * widget->devicePixelRatioF();
+    return {place.toPoint().x(), place.toPoint().y(),
+            widget->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint)};
 }
 
 std::vector<Message> Take_Messages() {

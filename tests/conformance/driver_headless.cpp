@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <filesystem>
 
 #include "platform/code_page.h"
 #include "platform/headless/form.h"
@@ -44,8 +45,14 @@ void Click(Control_Ref control) {
     Do("click", Name(control));
 }
 
-void Double_Click(Control_Ref list) {
+void Double_Click(Control_Ref list, Spot) {
     Do("double_click", Name(list));
+}
+
+void Enter_Folder(Control_Ref folder_list, int index) {
+    const auto names = std::filesystem::directory_iterator(Folder_Path(folder_list));
+    const auto entry = std::next(std::filesystem::begin(names), index);
+    Do("folder", Name(folder_list) + " " + entry->path().string());
 }
 
 void Pick(Control_Ref list_or_combo, int index) {
@@ -63,24 +70,40 @@ void Press(const Window& window, Mouse_Button button, int x, int y) {
 }
 
 void Resize(const Window& window, int client_width, int client_height) {
+    if (window.frame != Frame_Style::Sizable) return;
     Do("resize", std::string(window.name) + " " +
                      std::to_string(client_width + headless::Frame_Width(window)) + " " +
                      std::to_string(client_height + headless::Frame_Height(window)));
 }
 
 void Do(Deed deed, const Window& window) {
-    const char* const verbs[] = {"minimise", "restore", "close"};
+    const char* const verbs[] = {"minimise", "", "restore", "close"};
     Do(verbs[deed], window.name);
 }
 
-void Key(const Window&, int code, bool down) {
+void Key(int code, bool down) {
     Do("key", std::to_string(code) + (down ? " down" : " up"));
+}
+
+bool Has_Screen() {
+    return false;
+}
+
+void Press_Key(const Window&, Stroke) {}
+
+std::string Focus(const Window&) {
+    return {};
+}
+
+Frame Frame_Of(const Window& window) {
+    const headless::Form* form = headless::Find_Form(window);
+    return {form->left, form->top, form->topmost};
 }
 
 std::vector<Message> Take_Messages() {
     std::vector<Message> messages;
     for (const auto& shown : headless::Take_Messages())
-        messages.push_back({shown.icon, shown.title, shown.text});
+        messages.push_back({shown.icon, shown.title, shown.text, false});
     return messages;
 }
 
@@ -96,6 +119,13 @@ Colour Pixel(const Window& window, int x, int y) {
         const bool across = left - half <= x && x <= right + half;
         const bool down = top - half <= y && y <= bottom + half;
         if (across && down) colour = picture.states[state].pen_colour;
+    }
+    const headless::Form* form = headless::Find_Form(window);
+    for (std::size_t i = 0; i < window.controls.size(); ++i) {
+        const auto& [left, top, width, height] = window.controls[i].at;
+        const bool covers = window.controls[i].kind == Control_Kind::Label && x * 15 >= left &&
+                            x * 15 < left + width && y * 15 >= top && y * 15 < top + height;
+        if (covers && !form->controls[i].transparent) colour = {};
     }
     return colour;
 }

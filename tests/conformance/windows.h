@@ -8,7 +8,7 @@
 namespace conformance {
 
 struct Counts {
-    int loads, unloads, resizes, presses;
+    int loads, unloads, resizes, presses, moves;
     int fast_ticks, slow_ticks;
     int clicks, check_clicks, first_clicks, second_clicks, text_changes, double_clicks;
     platform::Window_State state_at_resize;
@@ -17,8 +17,9 @@ struct Counts {
 };
 inline Counts counts;
 
-/// What a tick of `Fast` does besides counting.
+/// What a tick of `Fast` does besides counting, and what the load of the second window does.
 inline platform::Handler on_fast_tick = nullptr;
+inline platform::Handler on_second_load = nullptr;
 
 template <int Counts::*field>
 void Count() {
@@ -28,6 +29,10 @@ void Count() {
 inline void Tick_Fast() {
     ++counts.fast_ticks;
     if (on_fast_tick != nullptr) on_fast_tick();
+}
+
+inline void Load_Second() {
+    if (on_second_load != nullptr) on_second_load();
 }
 
 inline void Take_Press(platform::Mouse_Button button, float x, float y) {
@@ -57,35 +62,54 @@ inline constexpr platform::Control main_controls[] = {
     {"List1", List, "", {4500, 3000, 1400, 900}, "", Count<&Counts::double_clicks>},
     {"Text1", Text, "", {4500, 4000, 1400, 285}, "", Text1_Change},
     {"Bar1", Progress, "", {4500, 4300, 1400, 255}},
+    {"Label1", Label, "", {3000, 3000, 600, 255}},
     {"Fast", Timer, "", {}, "", Tick_Fast, 200, false},
     {"Slow", Timer, "", {}, "", Count<&Counts::slow_ticks>, 200, false},
 };
 
-inline constexpr platform::Window Main_Window = {.name = "Main_Window",
-                                                 .caption = "Main",
-                                                 .client_width = 6000,
-                                                 .client_height = 4800,
-                                                 .controls = main_controls,
-                                                 .frame = platform::Frame_Style::Sizable,
-                                                 .back_colour = platform::Colour_White,
-                                                 .fore_colour = {0, 192, 0},
-                                                 .load = Count<&Counts::loads>,
-                                                 .unload = Count<&Counts::unloads>,
-                                                 .resize = Main_Resize,
-                                                 .mouse_down = Take_Press};
+using enum platform::Frame_Style;
+inline constexpr platform::Window Main_Window = {"Main_Window",
+                                                 "Main",
+                                                 6000,
+                                                 4800,
+                                                 main_controls,
+                                                 Sizable,
+                                                 platform::Colour_White,
+                                                 platform::Colour{0, 192, 0},
+                                                 Count<&Counts::loads>,
+                                                 Count<&Counts::unloads>,
+                                                 Main_Resize,
+                                                 Take_Press};
 
-inline constexpr platform::Control second_controls[] = {{"Dir1", Folder, "", {0, 0, 1500, 1500}}};
-inline constexpr platform::Window Second_Window = {"Second_Window", "Second", 3000, 3000,
-                                                   second_controls};
+// Out of the order of the places on the screen: the Tab key goes by the table.
+inline constexpr platform::Control second_controls[] = {
+    {"Frame1", Frame, "", {0, 0, 3000, 2400}},
+    {"Option1", Option, "Frame1", {120, 1500, 1200, 255}},
+    {"Option2", Option, "Frame1", {120, 1200, 1200, 255}},
+    {"Dir1", Folder, "Frame1", {0, 200, 1500, 900}, "", Count<&Counts::moves>},
+    {.name = "Text1", .kind = Text, .in = "Frame1", .at = {1500, 200, 900, 285}, .read_only = true},
+    {"Button1", Button, "", {0, 2600, 600, 300}, "", Count<&Counts::clicks>},
+    {.name = "Button2", .kind = Button, .at = {900, 2600, 600, 300}, .tab_index = 0},
+};
+constexpr platform::Colour Grey = {212, 208, 200};
+inline constexpr platform::Window Second_Window = {
+    "Second_Window", "Second", 3000, 3000, second_controls, Fixed, Grey, {}, Load_Second};
+inline constexpr platform::Window Key_Window = {
+    "Key_Window", "Keys",  3000,    3000,    second_controls, Dialog, Grey,
+    {},           nullptr, nullptr, nullptr, nullptr,         true};
 
 consteval platform::Control_Ref Main(std::string_view name) {
     return platform::Find_Control(Main_Window, name);
 }
 
+consteval platform::Control_Ref Second(std::string_view name) {
+    return platform::Find_Control(Second_Window, name);
+}
+
 /// What a small program starts with: the main window, everything counted from 0.
 inline void Show_Main() {
     counts = {};
-    on_fast_tick = nullptr;
+    on_fast_tick = on_second_load = nullptr;
     platform::Show(Main_Window);
 }
 

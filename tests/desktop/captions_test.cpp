@@ -1,11 +1,14 @@
 // The measures of the windows' tables were made for one font; whatever stands in for it has to fit.
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "app/form1.h"
@@ -15,7 +18,8 @@
 #include "chart/form4.h"
 #include "keys/form7.h"
 #include "keys/form8.h"
-#include "platform/desktop/window_widget.h"
+#include "platform/desktop/windows/window_widget.h"
+#include "platform/message_box.h"
 #include "selection/form3.h"
 
 namespace skerrand {
@@ -55,6 +59,17 @@ TEST(Captions, No_Caption_Is_Cut_In_Its_Box) {
             EXPECT_LE(window.menu_bar->sizeHint().width(), window.width()) << table->name;
         }
     }
+}
+
+TEST(Messages, A_Path_Is_Shown_With_One_Kind_Of_Separator) {
+    QString shown;
+    QTimer::singleShot(0, [&shown] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        shown = box->text();
+        box->close();
+    });
+    platform::Message_Box("/home/\xE9va\\skerrand_config.cfg", platform::Icon::Critical, "Title");
+    EXPECT_EQ(shown.toStdString(), "/home/\u00e9va/skerrand_config.cfg");
 }
 
 }  // namespace

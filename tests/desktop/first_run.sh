@@ -2,8 +2,16 @@
 # Goes from the splash window to two charts and out again with real clicks and keys.
 . "$(dirname "$0")/steps.sh"
 
-begin skerrand
+env -u DISPLAY "$bin/skerrand" 2> no_display.txt
+[ $? -eq 1 ] && [ "$(wc -l < no_display.txt)" -eq 1 ] || fail "no plain line without a display"
 
+begin skerrand
+window Settings
+touch skerrand_config.cfg # which the window's closing takes away again
+end_by HUP
+[ ! -e skerrand_config.cfg ] || fail "a setup that was not finished leaves settings"
+
+begin skerrand
 window Settings
 click 200 370
 answer wrong-folder
@@ -18,7 +26,7 @@ answer settings-written
 answer scan-begins
 answer scan-ends
 [ -s all_fs_airports.dat ] && [ -s world_airspaces.lst ] || fail "the scan wrote no databases"
-choose
+choose seattle heathrow
 answer no-simulator
 
 window 'KSEA Chart'

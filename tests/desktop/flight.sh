@@ -9,7 +9,7 @@ begin skerrand-simulator --departure KSEA --destination EGLL --speed-up 10
 simulator=$program
 wait_for "the simulator does not stand" grep -q "skerrand/UIPCMAIN$XDG_RUNTIME_DIR" /proc/net/unix
 begin skerrand
-choose
+choose seattle heathrow
 
 window 'KSEA Chart'
 chart=$id

@@ -1,12 +1,9 @@
-// From the keys of a keyboard, as the X server and the toolkit tell of them, to virtual-key codes.
+// From the keys of a keyboard, as the X server tells of them, to virtual-key codes.
 
-#include <QCoreApplication>
-#include <QKeyEvent>
-#include <QWidget>
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "platform/desktop/keys.h"
+#include "platform/desktop/keys/keys.h"
 #include "platform/keys.h"
 
 namespace platform::desktop {
@@ -63,21 +60,6 @@ TEST(Keys, A_Press_Counts_Once_And_The_Code_Of_A_Pair_Stays_While_One_Is_Held) {
     EXPECT_EQ(GetAsyncKeyState(16), Key_Down);
     Release_Key(62);
     EXPECT_EQ(GetAsyncKeyState(16), 0);
-}
-
-TEST(Keys, A_Key_That_Repeats_In_A_Window_Is_One_Press_Though_Its_Parent_Sees_It_Too) {
-    QWidget window;
-    QWidget child(&window);
-    Watch_Keys();
-    const auto send = [&child](QEvent::Type type, bool repeats) {
-        QKeyEvent event(type, Qt::Key_Plus, Qt::KeypadModifier, QString(), repeats);
-        QCoreApplication::sendEvent(&child, &event);
-        return GetAsyncKeyState(107);
-    };
-    EXPECT_EQ(send(QEvent::KeyPress, false), Key_Down | Key_Was_Pressed);
-    EXPECT_EQ(send(QEvent::KeyRelease, true), Key_Down);
-    EXPECT_EQ(send(QEvent::KeyPress, true), Key_Down);
-    EXPECT_EQ(send(QEvent::KeyRelease, false), 0);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
-#include "platform/desktop/application.h"
+#include "platform/desktop/program.h"
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);

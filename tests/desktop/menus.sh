@@ -13,12 +13,8 @@ else
     export CUPS_SERVER=$folder/none
 fi
 
-# Without a window manager nothing can be minimised.
-openbox --sm-disable > /dev/null 2>&1 &
-begun+=($!)
-wait_for "no window manager" xdotool get_num_desktops
 begin skerrand
-choose
+choose seattle heathrow
 answer no-simulator
 window 'KSEA Chart'
 departure=$id
@@ -26,7 +22,8 @@ departure=$id
 # Another program of the user's has the focus.
 mkdir elsewhere
 (cd elsewhere && exec "$bin/skerrand") &
-begun+=($!)
+other=$!
+begun+=($other)
 window Settings
 xdotool windowfocus --sync "$id"
 keys 2
@@ -39,12 +36,21 @@ sleep 1.2
 [ "$(pixels "$id" $green)" -gt 100 ] || fail "the keys do not zoom"
 keys a
 keys a
+# On a French keyboard the key of the Q is the one of the A.
+setxkbmap fr
+keys 24
+[ "$(pixels "$id" C00000)" -gt 20 ] || fail "another layout of the keyboard is not seen"
+keys 24
+setxkbmap us
 
 menu 100 2
 window 'Keyboard assigments'
+# Its frame, not its client area, is in the corner of the screen.
+corner=$(import -window root -crop 2x2+0+0 -depth 8 txt:-)
+! grep -qE '#(000000|D4D0C8)' <<< "$corner" || fail "the dialog is not in the corner: $corner"
 xdotool mousemove --window "$id" 100 110 click --repeat 2 --delay 80 1
 window 'Change key assigment'
-keys F5
+keys F5 Tab
 click 228 60 # "Try Again"
 keys space   # which must not press it once more
 click 140 100
@@ -82,3 +88,9 @@ sleep 2.5
 ! shown 'KSEA Chart' > /dev/null || fail "a tick brings the minimised chart back"
 keys 2
 wait_for "the chart does not go on" xdotool search --name '^EGLL Chart$'
+
+xdotool windowactivate --sync "$(xdotool search --name '^EGLL Chart$')"
+window 'EGLL Chart'
+menu 60 3
+window 'Skerrand Message'
+end_by TERM

@@ -12,7 +12,7 @@
 #include <iostream>
 #include <string>
 
-#include "platform/desktop/application.h"
+#include "platform/desktop/program.h"
 #include "platform/drawing.h"
 #include "platform/printer.h"
 

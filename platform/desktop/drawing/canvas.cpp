@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "platform/desktop/drawing/text.h"
-#include "platform/desktop/handlers.h"
-#include "platform/desktop/window_widget.h"
-#include "platform/desktop/windows.h"
+#include "platform/desktop/program.h"
+#include "platform/desktop/windows/window_widget.h"
+#include "platform/desktop/windows/windows.h"
 
 namespace platform::desktop {
 

@@ -1,15 +1,19 @@
-#include "platform/desktop/window_widget.h"
+#include "platform/desktop/windows/window_widget.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <xcb/xcb.h>
 
-#include "platform/desktop/builder.h"
 #include "platform/desktop/drawing/text.h"
-#include "platform/desktop/handlers.h"
-#include "platform/desktop/hold_above.h"
+#include "platform/desktop/program.h"
 #include "platform/desktop/scale.h"
-#include "platform/desktop/windows.h"
+#include "platform/desktop/windows/build.h"
+#include "platform/desktop/windows/windows.h"
 
 namespace platform::desktop {
 
@@ -28,27 +32,61 @@ Qt::WindowFlags Frame_Flags(Frame_Style style) {
     }
 }
 
+xcb_atom_t Atom(xcb_connection_t* connection, const char* name) {
+    const auto length = static_cast<std::uint16_t>(std::strlen(name));
+    xcb_intern_atom_reply_t* reply =
+        xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, length, name), nullptr);
+    const xcb_atom_t atom = reply != nullptr ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    std::free(reply);
+    return atom;
+}
+
+/// Asks the window manager again to keep a window above all others, in case another program or the
+/// user has undone it, which the toolkit cannot do. Neither raises the window nor gives it the
+/// focus.
+void Hold_Above(const QWindow& window) {
+    constexpr std::uint32_t Add_State = 1;  // values of the protocol's _NET_WM_STATE message
+    constexpr std::uint32_t From_Application = 1;
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    xcb_connection_t* connection = x11 != nullptr ? x11->connection() : nullptr;
+    if (connection == nullptr) return;  // the toolkit shows its windows elsewhere
+    static const xcb_atom_t state = Atom(connection, "_NET_WM_STATE");
+    static const xcb_atom_t above = Atom(connection, "_NET_WM_STATE_ABOVE");
+
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = static_cast<xcb_window_t>(window.winId());
+    message.type = state;
+    message.data.data32[0] = Add_State;
+    message.data.data32[1] = above;
+    message.data.data32[3] = From_Application;
+    char event[32] = {};
+    std::memcpy(event, &message, sizeof message);
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    xcb_send_event(connection, 0, root,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   event);
+    xcb_flush(connection);
+}
+
 }  // namespace
+
+void Fire(Live_Control& control) {
+    // An unloaded window's widget lives on until the event loop has deleted it.
+    if (Find_Window(control.window->table) != control.window) return;
+    On_Event([&control] { Call(control.row->handler); });
+}
 
 Window_Widget::Window_Widget(const Window& window) : table(window) {
     setWindowTitle(To_Qt(window.caption));
     setFont(Default_Font());
     canvas = new Canvas(window, this);
     Build_Controls(*this);
-    Set_Frame();
+    setWindowFlags(Frame_Flags(window.frame));
+    Set_Size({To_Logical(window.client_width), To_Logical(window.client_height) + Menu_Height()});
     create();  // Only a native window knows of its frame.
     reported_size = Outer_Pixels();
-}
-
-void Window_Widget::Set_Frame() {
-    setWindowFlags(Frame_Flags(table.frame));
-    const QSize size(To_Logical(table.client_width),
-                     To_Logical(table.client_height) + Menu_Height());
-    if (table.frame == Frame_Style::Sizable) {
-        resize(size);
-    } else {
-        setFixedSize(size);
-    }
 }
 
 void Window_Widget::Present() {
@@ -100,18 +138,21 @@ void Window_Widget::Move_Outer(QPoint place) {
     move(logical);
     // A widget that has never been moved takes itself for one at (0, 0) already, and would leave
     // the place to the window manager.
-    if (windowHandle() != nullptr) windowHandle()->setFramePosition(logical);
+    windowHandle()->setFramePosition(logical);
 }
 
 void Window_Widget::Resize_Outer(QSize size) {
-    const QSize inner =
-        (QSizeF(size) / devicePixelRatioF()).toSize().shrunkBy(Frame_Margins()).expandedTo({1, 1});
+    Set_Size(
+        (QSizeF(size) / devicePixelRatioF()).toSize().shrunkBy(Frame_Margins()).expandedTo({1, 1}));
+    Report_Size();
+}
+
+void Window_Widget::Set_Size(QSize inner) {
     if (table.frame == Frame_Style::Sizable) {
         resize(inner);
     } else {
         setFixedSize(inner);
     }
-    Report_Size();
 }
 
 QSize Window_Widget::Outer_Pixels() const {

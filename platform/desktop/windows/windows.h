@@ -16,20 +16,15 @@ const std::vector<Window_Widget*>& Loaded_Windows();
 /// Null if the window is not loaded.
 Window_Widget* Find_Window(const Window& window);
 
-/// Null if the control's window is not loaded, or if the table has no such row.
+/// Null if the control's window is not loaded, if the table has no such row, or if it is of another
+/// kind than the one asked for.
 Live_Control* Find_Live(Control_Ref control);
+Live_Control* Find_Live(Control_Ref control, Control_Kind kind);
 
-void Add_Window(Window_Widget* widget);
 void Remove_Window(const Window_Widget* widget);
-
-/// Whether one of them is above all windows that are not topmost.
-bool Any_Topmost();
 
 /// After a handler: shows what it has drawn and reports sizes that have changed meanwhile.
 void Settle_Windows();
-
-/// Puts what has been drawn so far on its way to the screen.
-void Show_Drawings();
 
 /// Removes them all without a handler being called.
 void Destroy_Windows();

@@ -1,4 +1,4 @@
-#include "platform/desktop/key_codes.h"
+#include "platform/desktop/keys/key_codes.h"
 
 #include <algorithm>
 #include <string_view>

@@ -2,9 +2,16 @@
 
 #include "platform/window.h"
 
-/// Who may run when. Handlers run one after the other; what the program itself sets off inside a
-/// handler (a load, an unload, a changed text) runs inside that one as a plain call.
+/// The life of the process, and who may run when. Handlers run one after the other; what the
+/// program itself sets off inside a handler (a load, an unload, a changed text) runs inside that
+/// one as a plain call.
 namespace platform::desktop {
+
+/// Gives the toolkit's application, which has to exist, the program's look and habits.
+void Set_Up_Application();
+
+/// Starts a program from nothing: windows that an earlier one left go without their handlers.
+void Begin(Handler start);
 
 /// Stands on the stack while a handler runs. The end of the outermost one brings the windows up to
 /// date, and ends the program if no window is left.
@@ -16,23 +23,15 @@ class Handler_Scope {
     Handler_Scope& operator=(const Handler_Scope&) = delete;
 };
 
-/// Stands on the stack while a message box waits for its answer.
-class Box_Scope {
-  public:
-    Box_Scope();
-    ~Box_Scope();
-    Box_Scope(const Box_Scope&) = delete;
-    Box_Scope& operator=(const Box_Scope&) = delete;
-};
-
-/// Whether an event has to be passed over: a handler runs, a box stands, or the program ends.
+/// Whether an event has to be passed over: a handler runs (perhaps with a message box that waits
+/// for its answer), or the program ends.
 bool Is_Busy();
 
 /// Whether the program ends as soon as the running handler has returned.
 bool Is_Ending();
 
-/// Makes a program that has ended ready for another run.
-void Reset_Life();
+/// Whether it was told to end from outside, so that nobody is there to answer a message.
+bool Is_Leaving();
 
 /// Runs a handler for something that the program itself has done.
 void Call(Handler handler);

@@ -1,13 +1,38 @@
 #pragma once
 
+#include <QAction>
 #include <QMenuBar>
+#include <QTimer>
 #include <QWidget>
+#include <string>
 #include <vector>
 
+#include "platform/controls.h"
 #include "platform/desktop/drawing/canvas.h"
-#include "platform/desktop/live_control.h"
 
 namespace platform::desktop {
+
+class Window_Widget;
+
+/// One row of a loaded window's table: what the toolkit has for it and what the program has set.
+/// Its address holds for as long as the window's widget exists.
+struct Live_Control {
+    Window_Widget* window = nullptr;
+    const Control* row = nullptr;
+
+    QWidget* widget = nullptr;  ///< null for a menu row and a timer
+    QAction* action = nullptr;  ///< of a menu row
+    QTimer* timer = nullptr;    ///< of a timer
+
+    std::string text;                  ///< text box: as last set or typed
+    std::vector<std::string> entries;  ///< combo and list: as shown
+    Progress progress;
+    int interval = 0;      ///< timer, in milliseconds
+    bool running = false;  ///< timer: enabled, also with an interval of 0
+};
+
+/// The user has done to the control what its handler is for.
+void Fire(Live_Control& control);
 
 /// The real window of a table: a menu bar, if the table has menus, and the client area below it.
 class Window_Widget final : public QWidget {
@@ -47,6 +72,7 @@ class Window_Widget final : public QWidget {
     QMenuBar* menu_bar = nullptr;
     Canvas* canvas = nullptr;
     std::vector<Live_Control> controls;
+    const Live_Control* lost_focus = nullptr;  ///< disabled while it had the focus
 
   protected:
     bool event(QEvent* event) override;
@@ -54,7 +80,7 @@ class Window_Widget final : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    void Set_Frame();
+    void Set_Size(QSize inner);
     int Menu_Height() const;
     QMargins Frame_Margins() const;
 

@@ -1,14 +1,13 @@
 #include "platform/message_box.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QSpacerItem>
 
-#include "platform/desktop/handlers.h"
 #include "platform/desktop/drawing/text.h"
-#include "platform/desktop/window_widget.h"
-#include "platform/desktop/windows.h"
+#include "platform/desktop/program.h"
+#include "platform/desktop/windows/window_widget.h"
+#include "platform/desktop/windows/windows.h"
 
 namespace platform {
 
@@ -48,15 +47,22 @@ void Make_Room_For_Title(QMessageBox& box) {
 }  // namespace
 
 void Message_Box(std::string_view text, Icon icon, std::string_view title) {
-    const desktop::Box_Scope scope;
-    desktop::Show_Drawings();
+    if (desktop::Is_Leaving()) return;
+    const desktop::Handler_Scope scope;
+    bool any_topmost = false;
+    for (const desktop::Window_Widget* widget : desktop::Loaded_Windows()) {
+        any_topmost = any_topmost || widget->Is_Topmost();
+        widget->canvas->Show_Drawing();
+    }
     QString lines = desktop::To_Qt(text);
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    // Of a path, as this system writes it: the program parts folders by both.
+    lines.replace(QLatin1Char('\\'), QLatin1Char('/'));
     QMessageBox box(To_Qt(icon), desktop::To_Qt(title), lines, QMessageBox::Ok, Owner());
     box.setTextFormat(Qt::PlainText);
     Make_Room_For_Title(box);
     box.setWindowModality(Qt::ApplicationModal);
-    if (desktop::Any_Topmost()) box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    box.setWindowFlag(Qt::WindowStaysOnTopHint, any_topmost);
     box.exec();
 }
 

@@ -1,19 +1,44 @@
+#include "platform/desktop/keys/keys.h"
+
 #include <QGuiApplication>
+#include <QPointer>
 #include <QSocketNotifier>
 #include <array>
 #include <cstdlib>
 #include <memory>
+#include <unordered_map>
 #include <xcb/xcb.h>
 #include <xcb/xinput.h>
 
-#include "platform/desktop/keys.h"
+#include "platform/keys.h"
 
 // Raw key events of the X input extension come whoever has the focus and whoever grabs the keyboard
 // (since its version 2.1), and nothing comes while no key moves. The connection is the keyboard's
 // own, since the toolkit selects events of the extension for itself on the other.
-namespace platform::desktop {
+namespace platform {
+
+namespace desktop {
 
 namespace {
+
+/// One virtual-key code. Several keys may share it: the two of a pair, two Enter keys.
+struct Code_State {
+    int keys_down = 0;
+    bool was_pressed = false;
+};
+
+struct Keyboard {
+    std::array<Code_State, Last_Key_Code + 1> codes;
+    /// The keys that are down, with their codes of when they went down.
+    std::unordered_map<Key_Id, Key_Codes> down;
+};
+
+Keyboard keyboard;
+QPointer<QObject> watcher;
+
+Code_State& State_Of_Code(int code) {
+    return keyboard.codes.at(static_cast<std::size_t>(code));
+}
 
 struct Free {
     void operator()(void* memory) const { std::free(memory); }
@@ -107,7 +132,7 @@ class Server_Keys final : public QObject {
         if (xcb_connection_has_error(connection) == 0) return;
         // Nothing comes any more, and a key that is down would stay so.
         notifier.setEnabled(false);
-        Release_All_Keys();
+        keyboard = {};
     }
 
     void Take(const xcb_generic_event_t& event) {
@@ -138,9 +163,8 @@ class Server_Keys final : public QObject {
     bool mapping_is_old = false;
 };
 
-}  // namespace
-
-QObject* Watch_Server_Keys() {
+/// Null if there is no X server or it cannot tell of keys.
+QObject* New_Watcher() {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     if (x11 == nullptr || x11->connection() == nullptr) return nullptr;
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
@@ -151,4 +175,49 @@ QObject* Watch_Server_Keys() {
     return nullptr;
 }
 
-}  // namespace platform::desktop
+}  // namespace
+
+void Find_Key_Down(Key_Id key, Key_Codes codes) {
+    if (!keyboard.down.emplace(key, codes).second) return;
+    for (const int code : {codes.own, codes.common}) {
+        if (code != 0) ++State_Of_Code(code).keys_down;
+    }
+}
+
+void Press_Key(Key_Id key, Key_Codes codes) {
+    if (keyboard.down.contains(key)) return;
+    Find_Key_Down(key, codes);
+    for (const int code : {codes.own, codes.common}) {
+        if (code != 0) State_Of_Code(code).was_pressed = true;
+    }
+}
+
+void Release_Key(Key_Id key) {
+    const auto found = keyboard.down.find(key);
+    if (found == keyboard.down.end()) return;
+    for (const int code : {found->second.own, found->second.common}) {
+        if (code != 0) --State_Of_Code(code).keys_down;
+    }
+    keyboard.down.erase(found);
+}
+
+void Watch_Keys() {
+    delete watcher;
+    keyboard = {};
+    watcher = New_Watcher();
+    if (watcher != nullptr) watcher->setParent(qGuiApp);
+}
+
+}  // namespace desktop
+
+std::uint16_t GetAsyncKeyState(int code) {
+    if (code < First_Key_Code || code > Last_Key_Code) return 0;
+    desktop::Code_State& state = desktop::State_Of_Code(code);
+    unsigned result = 0;
+    if (state.keys_down > 0) result |= Key_Down;
+    if (state.was_pressed) result |= Key_Was_Pressed;
+    state.was_pressed = false;
+    return static_cast<std::uint16_t>(result);
+}
+
+}  // namespace platform

@@ -1,16 +1,13 @@
-#include "platform/desktop/entry_combo.h"
+#include "platform/desktop/windows/entry_boxes.h"
 
 #include <QAbstractProxyModel>
 #include <QCompleter>
 #include <QFontMetrics>
 #include <QLineEdit>
-#include <QListView>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
-#include <iterator>
-#include <vector>
 
-#include "platform/desktop/code_page_validator.h"
 #include "platform/desktop/drawing/text.h"
 
 namespace platform::desktop {
@@ -20,33 +17,58 @@ namespace {
 constexpr int Rows_Shown = 14;
 
 /// A list that takes its measures from one row, and shows entries in full.
+void Set_Up_View(QListView& view) {
+    view.setUniformItemSizes(true);
+    view.setTextElideMode(Qt::ElideNone);
+    view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
 QListView* New_List_View() {
     auto* view = new QListView;
-    view->setUniformItemSizes(true);
-    view->setTextElideMode(Qt::ElideNone);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    Set_Up_View(*view);
     return view;
 }
 
 /// Width of a list that shows the entries in full. Only the longest by count are measured, for
 /// measuring takes far longer than anything else here.
 int List_Width(const QStringList& entries, const QAbstractItemView& view) {
-    constexpr std::ptrdiff_t Measured = 64;
-    std::vector<const QString*> longest;
+    qsizetype longest = 0;
     for (const QString& entry : entries)
-        longest.push_back(&entry);
-    const auto count = std::min(std::ssize(longest), Measured);
-    std::partial_sort(longest.begin(), longest.begin() + count, longest.end(),
-                      [](const QString* a, const QString* b) { return a->size() > b->size(); });
+        longest = std::max(longest, entry.size());
     const QFontMetrics metrics(view.font());
     int width = 0;
-    for (auto entry = longest.begin(); entry != longest.begin() + count; ++entry) {
-        width = std::max(width, metrics.horizontalAdvance(**entry));
+    for (const QString& entry : entries) {
+        if (entry.size() * 4 > longest * 3)
+            width = std::max(width, metrics.horizontalAdvance(entry));
     }
     return width + view.verticalScrollBar()->sizeHint().width() + metrics.averageCharWidth() * 3;
 }
 
 }  // namespace
+
+QValidator::State Code_Page_Validator::validate(QString& text, int&) const {
+    return From_Qt(text).has_value() ? Acceptable : Invalid;
+}
+
+Entry_List::Entry_List(QWidget* parent) : QListView(parent), entries(new QStringListModel(this)) {
+    setModel(entries);
+    Set_Up_View(*this);
+}
+
+int Entry_List::Picked() const {
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.front().row();
+}
+
+/// A click beside the entries leaves the selection.
+void Entry_List::mousePressEvent(QMouseEvent* event) {
+    if (indexAt(event->pos()).isValid()) QListView::mousePressEvent(event);
+}
+
+void Entry_List::mouseDoubleClickEvent(QMouseEvent* event) {
+    QListView::mouseDoubleClickEvent(event);
+    if (double_clicked) double_clicked();
+}
 
 Entry_Combo::Entry_Combo(QWidget* parent)
     : QComboBox(parent), model_of_entries(new QStringListModel(this)) {
@@ -104,7 +126,6 @@ void Entry_Combo::Set_Entries(const QStringList& entries) {
 }
 
 void Entry_Combo::Set_Free_Text(const QString& text) {
-    const QSignalBlocker blocker(this);
     picked = -1;
     setCurrentIndex(-1);
     setEditText(text);

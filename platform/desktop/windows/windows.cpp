@@ -1,11 +1,62 @@
-#include "platform/window.h"
+#include "platform/desktop/windows/windows.h"
 
-#include "platform/desktop/handlers.h"
+#include <algorithm>
+
 #include "platform/desktop/drawing/text.h"
-#include "platform/desktop/window_widget.h"
-#include "platform/desktop/windows.h"
+#include "platform/desktop/program.h"
+#include "platform/desktop/windows/window_widget.h"
+#include "platform/timers.h"
 
 namespace platform {
+
+namespace desktop {
+
+namespace {
+std::vector<Window_Widget*> loaded;
+}  // namespace
+
+const std::vector<Window_Widget*>& Loaded_Windows() {
+    return loaded;
+}
+
+Window_Widget* Find_Window(const Window& window) {
+    for (Window_Widget* widget : loaded) {
+        if (&widget->table == &window) return widget;
+    }
+    return nullptr;
+}
+
+Live_Control* Find_Live(Control_Ref control) {
+    Window_Widget* widget = control.window != nullptr ? Find_Window(*control.window) : nullptr;
+    if (widget == nullptr || control.index >= widget->controls.size()) return nullptr;
+    return &widget->controls[control.index];
+}
+
+Live_Control* Find_Live(Control_Ref control, Control_Kind kind) {
+    Live_Control* live = Find_Live(control);
+    return live != nullptr && live->row->kind == kind ? live : nullptr;
+}
+
+void Remove_Window(const Window_Widget* widget) {
+    std::erase(loaded, widget);
+}
+
+void Settle_Windows() {
+    // A resize handler may load and unload windows, so the list in hand is a copy.
+    const std::vector<Window_Widget*> widgets = loaded;
+    for (Window_Widget* widget : widgets) {
+        if (std::find(loaded.begin(), loaded.end(), widget) == loaded.end()) continue;
+        widget->canvas->Show_Drawing();
+        widget->Report_Size();
+    }
+}
+
+void Destroy_Windows() {
+    for (const Window_Widget* widget : std::exchange(loaded, {}))
+        delete widget;
+}
+
+}  // namespace desktop
 
 using desktop::Find_Window;
 using desktop::Window_Widget;
@@ -13,7 +64,11 @@ using desktop::Window_Widget;
 void Show(const Window& window) {
     const desktop::Handler_Scope scope;
     if (Find_Window(window) == nullptr) {
-        desktop::Add_Window(new Window_Widget(window));
+        desktop::loaded.push_back(new Window_Widget(window));
+        for (std::size_t i = 0; i < window.controls.size(); ++i) {
+            Set_Interval({&window, i}, window.controls[i].interval);
+            if (window.controls[i].enabled) Start_Timer({&window, i});
+        }
         desktop::Call(window.load);
     }
     // The load handler may have unloaded the window or ended the program.

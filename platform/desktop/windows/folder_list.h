@@ -19,8 +19,9 @@ class Folder_List final : public QWidget {
     /// The folder in Windows-1252, as the file system has it.
     const std::string& Path() const { return path; }
 
-    /// Goes to a folder by a path of the program; false, changing nothing, if there is none, if it
-    /// is the same, or if its own name holds characters that Windows-1252 does not have.
+    /// Goes to a folder by a path from the root, or to the working folder by an empty one; false,
+    /// changing nothing, if there is none, if it is the same, or if its own name holds characters
+    /// that Windows-1252 does not have.
     bool Go_To(std::string_view program_path);
 
     /// Their names in Windows-1252, with "?" for what it does not have.
@@ -33,16 +34,13 @@ class Folder_List final : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
-    bool Go_To_Native(const std::string& native);
     void Walk(const QListWidgetItem& item);
-    void Fill();
     void Lay_Out();
 
     QLabel* place;
     QListWidget* list;
     std::string path;
-    std::string native_path;              ///< UTF-8, as the file system takes it
-    std::vector<std::string> subfolders;  ///< their native names
+    std::vector<std::string> subfolders;  ///< in UTF-8
 };
 
 }  // namespace platform::desktop

@@ -1,0 +1,274 @@
+#include "platform/desktop/windows/build.h"
+
+#include <QCheckBox>
+#include <QFontMetrics>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyleOption>
+#include <algorithm>
+
+#include "platform/desktop/drawing/text.h"
+#include "platform/desktop/scale.h"
+#include "platform/desktop/windows/entry_boxes.h"
+#include "platform/desktop/windows/folder_list.h"
+#include "platform/desktop/windows/window_widget.h"
+
+namespace platform::desktop {
+
+namespace {
+
+bool Is_Menu(const Live_Control& control) {
+    return control.row->kind == Control_Kind::Menu;
+}
+
+/// Adds the rows that stand in `title` to the menu or menu bar, and theirs in turn.
+template <typename Menu>
+void Add_Entries_Of(Window_Widget& window, std::string_view title, Menu& menu) {
+    for (Live_Control& control : window.controls) {
+        const Control& row = *control.row;
+        if (!Is_Menu(control) || title != row.in || control.action != nullptr) continue;
+        const QString caption = Caption_To_Qt(row.caption);
+        if (std::ranges::any_of(window.controls, [&row](const Live_Control& each) {
+                return Is_Menu(each) && std::string_view(each.row->in) == row.name;
+            })) {
+            QMenu* entries = menu.addMenu(caption);
+            control.action = entries->menuAction();
+            Add_Entries_Of(window, row.name, *entries);
+        } else {
+            control.action = menu.addAction(caption);
+            QObject::connect(control.action, &QAction::triggered, &window,
+                             [&control] { Fire(control); });
+        }
+        control.action->setEnabled(row.enabled);
+    }
+}
+
+void Build_Menus(Window_Widget& window) {
+    if (std::ranges::none_of(window.controls, Is_Menu)) return;
+    window.menu_bar = new QMenuBar(&window);
+    // The bar stays in the window also where the desktop would take it to the screen's edge: the
+    // chart's measures count it in.
+    window.menu_bar->setNativeMenuBar(false);
+    Add_Entries_Of(window, "", *window.menu_bar);
+}
+
+QWidget* New_Label(const Control& row, QWidget* holder) {
+    auto* label = new QLabel(holder);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    label->setAutoFillBackground(!row.transparent);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText,
+                     QColor(row.colour.red, row.colour.green, row.colour.blue));
+    label->setPalette(palette);
+    return label;
+}
+
+QWidget* New_Button(QWidget* holder) {
+    auto* button = new QPushButton(holder);
+    button->setAutoDefault(true);  // The Enter key presses the button that has the focus.
+    return button;
+}
+
+QWidget* New_Option(QWidget* holder) {
+    auto* button = new QRadioButton(holder);
+    // The Tab key goes to the selected one alone.
+    QObject::connect(button, &QRadioButton::toggled, holder, [holder] {
+        for (auto* each : holder->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
+            each->setFocusPolicy(each->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+    });
+    return button;
+}
+
+QWidget* New_Line(Live_Control& control, QWidget* holder) {
+    auto* line = new QLineEdit(holder);
+    line->setReadOnly(control.row->read_only);
+    if (control.row->centred) line->setAlignment(Qt::AlignCenter);
+    line->setValidator(new Code_Page_Validator(line));
+    QObject::connect(line, &QLineEdit::textEdited, holder, [&control](const QString& typed) {
+        control.text = From_Qt_Lossy(typed);
+        Fire(control);
+    });
+    return line;
+}
+
+QWidget* New_Lines(QWidget* holder) {
+    auto* lines = new QPlainTextEdit(holder);
+    lines->setReadOnly(true);
+    lines->setTabChangesFocus(true);
+    lines->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    return lines;
+}
+
+QWidget* New_Combo(const Control& row, QWidget* holder) {
+    auto* combo = new Entry_Combo(holder);
+    combo->setEditText(To_Qt(row.caption));
+    return combo;
+}
+
+QWidget* New_List(Live_Control& control, QWidget* holder) {
+    auto* list = new Entry_List(holder);
+    list->double_clicked = [&control] { Fire(control); };
+    return list;
+}
+
+QWidget* New_Folder(Live_Control& control, QWidget* holder) {
+    auto* list = new Folder_List(holder);
+    list->moved = [&control] { Fire(control); };
+    return list;
+}
+
+QWidget* New_Picture(QWidget* holder) {
+    auto* picture = new QLabel(holder);
+    picture->setScaledContents(true);
+    picture->setPixmap(QPixmap(QStringLiteral(":/picture.png")));
+    return picture;
+}
+
+QWidget* New_Widget(Live_Control& control, QWidget* holder) {
+    const Control& row = *control.row;
+    switch (row.kind) {
+        case Control_Kind::Frame:
+            return new QGroupBox(holder);
+        case Control_Kind::Label:
+            return New_Label(row, holder);
+        case Control_Kind::Button:
+            return New_Button(holder);
+        case Control_Kind::Text:
+            return row.multi_line ? New_Lines(holder) : New_Line(control, holder);
+        case Control_Kind::Combo:
+            return New_Combo(row, holder);
+        case Control_Kind::List:
+            return New_List(control, holder);
+        case Control_Kind::Check:
+            return new QCheckBox(holder);
+        case Control_Kind::Option:
+            return New_Option(holder);
+        case Control_Kind::Progress:
+            return new QProgressBar(holder);
+        case Control_Kind::Drive:
+            return new QComboBox(holder);
+        case Control_Kind::Folder:
+            return New_Folder(control, holder);
+        default:
+            return New_Picture(holder);
+    }
+}
+
+/// Makes the widget, in its frame or on the client area, with its place, font and first texts.
+void Build_Widget(Live_Control& control) {
+    const Control& row = *control.row;
+    QWidget* holder = control.window->canvas;
+    for (const Live_Control& frame : control.window->controls) {
+        if (frame.widget != nullptr && std::string_view(frame.row->name) == row.in)
+            holder = frame.widget;
+    }
+    control.widget = New_Widget(control, holder);
+    control.widget->setFont(Control_Font(row.font));
+    control.widget->setGeometry(To_Logical(row.at));
+    // There are no drives here: their list stands empty.
+    control.widget->setEnabled(row.enabled && row.kind != Control_Kind::Drive);
+    if (control.window->table.takes_keys) control.widget->setFocusPolicy(Qt::NoFocus);
+    // A press on a control is none on the client area behind it.
+    control.widget->setAttribute(Qt::WA_NoMousePropagation);
+    if (const auto* button = qobject_cast<QAbstractButton*>(control.widget)) {
+        QObject::connect(button, &QAbstractButton::clicked, holder, [&control] { Fire(control); });
+    }
+    Show_Caption(control, row.caption);
+    if (row.kind == Control_Kind::Progress) {
+        static_cast<QProgressBar*>(control.widget)->setTextVisible(false);
+    } else if (row.kind == Control_Kind::Text) {
+        control.text = row.caption;
+        Show_Text(control);
+    }
+}
+
+/// The Tab key goes through the numbered rows first, then through the others by the table.
+void Set_Tab_Order(const Window_Widget& window) {
+    std::vector<const Live_Control*> order;
+    for (const Live_Control& control : window.controls) {
+        if (control.widget != nullptr && control.widget->focusPolicy() != Qt::NoFocus) {
+            order.push_back(&control);
+        }
+    }
+    // As an unsigned number -1 comes behind all others.
+    std::ranges::stable_sort(order, {}, [](const Live_Control* control) {
+        return static_cast<unsigned>(control->row->tab_index);
+    });
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        QWidget::setTabOrder(order[i - 1]->widget, order[i]->widget);
+    }
+    if (!order.empty()) order.front()->widget->setFocus();
+}
+
+/// How wide a button's caption may be.
+int Caption_Room(const QAbstractButton& button, Control_Kind kind) {
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    const auto part = kind == Control_Kind::Check    ? QStyle::SE_CheckBoxContents
+                      : kind == Control_Kind::Option ? QStyle::SE_RadioButtonContents
+                                                     : QStyle::SE_PushButtonContents;
+    return button.style()->subElementRect(part, &option, &button).width();
+}
+
+/// A label breaks its caption into lines where it is high enough for two.
+void Show_In_Label(QLabel& label, const QString& caption) {
+    const bool has_lines = label.height() >= 2 * QFontMetrics(label.font()).lineSpacing();
+    label.setWordWrap(has_lines);
+    if (!has_lines) Condense_To_Fit(label, caption, label.width());
+    label.setText(caption);
+}
+
+}  // namespace
+
+void Build_Controls(Window_Widget& window) {
+    for (const Control& row : window.table.controls) {
+        Live_Control& control = window.controls.emplace_back();
+        control.window = &window;
+        control.row = &row;
+    }
+    Build_Menus(window);
+    for (Live_Control& control : window.controls) {
+        if (control.row->kind == Control_Kind::Timer) {
+            control.timer = new QTimer(&window);
+            control.timer->setTimerType(Qt::PreciseTimer);
+            QObject::connect(control.timer, &QTimer::timeout, &window,
+                             [&control] { Fire(control); });
+        } else if (!Is_Menu(control)) {
+            Build_Widget(control);
+        }
+    }
+    Set_Tab_Order(window);
+}
+
+void Show_Caption(const Live_Control& control, std::string_view caption) {
+    const Control_Kind kind = control.row->kind;
+    if (control.action != nullptr) {
+        control.action->setText(Caption_To_Qt(caption));
+    } else if (kind == Control_Kind::Label) {
+        Show_In_Label(static_cast<QLabel&>(*control.widget), To_Qt(caption));
+    } else if (auto* frame = qobject_cast<QGroupBox*>(control.widget)) {
+        frame->setTitle(Caption_To_Qt(caption));
+    } else if (auto* button = qobject_cast<QAbstractButton*>(control.widget)) {
+        Condense_To_Fit(*button, To_Qt(caption), Caption_Room(*button, kind));
+        button->setText(Caption_To_Qt(caption));
+    }
+}
+
+void Show_Text(const Live_Control& control) {
+    const QString shown = To_Qt(control.text);
+    if (auto* line = qobject_cast<QLineEdit*>(control.widget)) {
+        line->setText(shown);
+        line->setCursorPosition(0);
+    } else if (auto* lines = qobject_cast<QPlainTextEdit*>(control.widget)) {
+        lines->setPlainText(shown);
+    }
+}
+
+}  // namespace platform::desktop

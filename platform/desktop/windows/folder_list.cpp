@@ -1,0 +1,95 @@
+#include "platform/desktop/windows/folder_list.h"
+
+#include <QEvent>
+#include <QFontMetrics>
+#include <algorithm>
+
+#include "platform/code_page.h"
+#include "platform/desktop/drawing/text.h"
+#include "platform/desktop/program.h"
+#include "platform/files.h"
+#include "platform/message_box.h"
+#include "platform/posix/native_path.h"
+#include "platform/program.h"
+
+namespace platform::desktop {
+
+namespace {
+
+std::string Joined(const std::string& folder, const std::string& name) {
+    return folder.back() == '/' ? folder + name : folder + "/" + name;
+}
+
+}  // namespace
+
+Folder_List::Folder_List(QWidget* parent)
+    : QWidget(parent), place(new QLabel(this)), list(new QListWidget(this)) {
+    place->setTextFormat(Qt::PlainText);
+    setFocusProxy(list);
+    setFocusPolicy(list->focusPolicy());  // the proxy's own does not count in the order of Tab
+    list->setUniformItemSizes(true);
+    list->setTextElideMode(Qt::ElideNone);
+    connect(list, &QListWidget::itemActivated, this,
+            [this](QListWidgetItem* item) { Walk(*item); });
+    if (!Go_To("")) Go_To("/");
+}
+
+bool Folder_List::Go_To(std::string_view program_path) {
+    std::string native = posix::Native_Path(program_path);
+    if (native == ".") native = To_Utf8(Current_Folder());
+    const std::optional<std::string> text = From_Utf8(native);
+    if (!native.starts_with('/') || !text || text == path || !Folder_Exists(*text)) return false;
+    path = *text;
+    subfolders = platform::Subfolders(path);
+    list->clear();
+    if (path != "/") list->addItem(QStringLiteral(".."));
+    for (const std::string& name : subfolders)
+        list->addItem(QString::fromStdString(name));
+    list->setCurrentRow(0);
+    place->setToolTip(To_Qt(path));
+    Lay_Out();
+    return true;
+}
+
+void Folder_List::Walk(const QListWidgetItem& item) {
+    if (Is_Busy()) return;
+    const int row = list->row(&item) - (path == "/" ? 0 : 1);
+    const std::size_t last = path.find_last_of('/');
+    const std::string to = row < 0
+                               ? To_Utf8(path.substr(0, std::max<std::size_t>(last, 1)))
+                               : Joined(To_Utf8(path), subfolders[static_cast<std::size_t>(row)]);
+    if (const auto text = From_Utf8(to)) {
+        if (Go_To(*text) && moved) moved();
+        return;
+    }
+    Message_Box("The folder \"" + From_Utf8_Lossy(to) +
+                    "\" cannot be used, because its name holds characters that this program cannot "
+                    "write.",
+                Icon::Exclamation, Message_Title);
+}
+
+std::vector<std::string> Folder_List::Subfolders() const {
+    std::vector<std::string> names;
+    for (const std::string& name : subfolders)
+        names.push_back(From_Utf8_Lossy(name));
+    return names;
+}
+
+/// The place on a line of its own, its end in view if it is too long, and the list below.
+void Folder_List::Lay_Out() {
+    const QFontMetrics metrics(place->font());
+    const int line = metrics.height() + 2;
+    place->setGeometry(0, 0, width(), line);
+    place->setText(metrics.elidedText(To_Qt(path), Qt::ElideLeft, width()));
+    list->setGeometry(0, line, width(), std::max(0, height() - line));
+}
+
+void Folder_List::resizeEvent(QResizeEvent*) {
+    Lay_Out();
+}
+
+void Folder_List::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) Lay_Out();
+}
+
+}  // namespace platform::desktop
