@@ -22,7 +22,9 @@ fail() {
 picture() {
     step=$((step + 1))
     sleep 0.5 # let it finish painting
-    import -silent -window "$id" -frame "$(printf '%s/%02d-%s.png' "$pictures" $step "$1")"
+    # Without its window the camera would wait for a click on another one.
+    timeout 10 import -silent -window "$id" -frame \
+        "$(printf '%s/%02d-%s.png' "$pictures" $step "$1")" || fail "no window for \"$1\""
 }
 
 # Waits up to 30 seconds for a condition.

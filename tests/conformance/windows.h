@@ -62,7 +62,7 @@ inline constexpr platform::Control main_controls[] = {
     {"List1", List, "", {4500, 3000, 1400, 900}, "", Count<&Counts::double_clicks>},
     {"Text1", Text, "", {4500, 4000, 1400, 285}, "", Text1_Change},
     {"Bar1", Progress, "", {4500, 4300, 1400, 255}},
-    {"Label1", Label, "", {3000, 3000, 600, 255}},
+    {.name = "Label1", .kind = Label, .at = {3000, 3000, 600, 255}, .transparent = true},
     {"Fast", Timer, "", {}, "", Tick_Fast, 200, false},
     {"Slow", Timer, "", {}, "", Count<&Counts::slow_ticks>, 200, false},
 };
@@ -86,10 +86,10 @@ inline constexpr platform::Control second_controls[] = {
     {"Frame1", Frame, "", {0, 0, 3000, 2400}},
     {"Option1", Option, "Frame1", {120, 1500, 1200, 255}},
     {"Option2", Option, "Frame1", {120, 1200, 1200, 255}},
+    {.name = "Button2", .kind = Button, .at = {900, 2600, 600, 300}, .tab_index = 0},
     {"Dir1", Folder, "Frame1", {0, 200, 1500, 900}, "", Count<&Counts::moves>},
     {.name = "Text1", .kind = Text, .in = "Frame1", .at = {1500, 200, 900, 285}, .read_only = true},
     {"Button1", Button, "", {0, 2600, 600, 300}, "", Count<&Counts::clicks>},
-    {.name = "Button2", .kind = Button, .at = {900, 2600, 600, 300}, .tab_index = 0},
 };
 constexpr platform::Colour Grey = {212, 208, 200};
 inline constexpr platform::Window Second_Window = {
