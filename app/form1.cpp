@@ -1,8 +1,8 @@
 #include "app/form1.h"
 
 #include "app/form2.h"
-#include "app/messages.h"
 #include "app/settings.h"
+#include "platform/message_box.h"
 #include "platform/program.h"
 #include "platform/timers.h"
 #include "scenery/database.h"
@@ -56,7 +56,7 @@ void Timer1_Timer() {
     platform::Stop_Timer(Timer1);
     const std::string folder = platform::Current_Folder();
     if (folder.empty()) {
-        Show_Message(
+        platform::Message_Box(
             "The name of the folder that Skerrand was started in has characters that it cannot "
             "use. Please start it in another folder.",
             platform::Icon::Critical);
@@ -68,18 +68,20 @@ void Timer1_Timer() {
     if (!All_Own_Files_Exist()) return Begin_Setup();
     const Load_Result result = Load_Settings(Settings_File);
     if (result == Load_Result::Unreadable) {
-        Show_Message("The settings file " + Own_File(Settings_File) +
-                         " cannot be read. The program will end. Please make it readable, or "
-                         "delete it to choose your Flight Simulator's folder again, and start the "
-                         "program again.",
-                     platform::Icon::Critical);
+        platform::Message_Box(
+            "The settings file " + Own_File(Settings_File) +
+                " cannot be read. The program will end. Please make it readable, or "
+                "delete it to choose your Flight Simulator's folder again, and start the "
+                "program again.",
+            platform::Icon::Critical);
         return platform::End_Program();
     }
     if (result == Load_Result::Damaged) {
-        Show_Message("The settings file " + Own_File(Settings_File) +
-                         " is damaged. Please choose your Flight Simulator's folder again; the "
-                         "database of airports will be created anew.",
-                     platform::Icon::Exclamation);
+        platform::Message_Box(
+            "The settings file " + Own_File(Settings_File) +
+                " is damaged. Please choose your Flight Simulator's folder again; the "
+                "database of airports will be created anew.",
+            platform::Icon::Exclamation);
         return Begin_Setup();
     }
     first_run = false;

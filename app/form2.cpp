@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "app/messages.h"
 #include "app/settings.h"
 #include "platform/controls.h"
 #include "platform/files.h"
+#include "platform/message_box.h"
 #include "platform/program.h"
 #include "selection/form3.h"
 
@@ -148,7 +148,7 @@ Settings_Rec Fresh_Settings(const std::string& folder) {
 void Command1_Click() {
     const std::string folder = platform::Text_Of(Text1);
     if (!platform::File_Exists(folder + "\\fs2002.exe")) {
-        Show_Message(
+        platform::Message_Box(
             "The directory or path that you selected is not your currently FS2002 main folder, "
             "because this program didn't found the FS2002.EXE file. Please try again.",
             platform::Icon::Exclamation);
@@ -159,14 +159,14 @@ void Command1_Click() {
     fs_root = folder;
     const std::string reason = Save_Settings();
     if (!reason.empty()) {
-        Show_Message("The settings file " + Own_File(Settings_File) +
-                         " cannot be written: " + reason +
-                         ". Please make the folder writable, or make room in it, and "
-                         "press NEXT STEP again.",
-                     platform::Icon::Critical);
+        platform::Message_Box("The settings file " + Own_File(Settings_File) +
+                                  " cannot be written: " + reason +
+                                  ". Please make the folder writable, or make room in it, and "
+                                  "press NEXT STEP again.",
+                              platform::Icon::Critical);
         return;
     }
-    Show_Message("Settings file created successfully!", platform::Icon::Information);
+    platform::Message_Box("Settings file created successfully!", platform::Icon::Information);
     setup_done = true;
     platform::Unload(window);
     platform::Show(form3::window);
@@ -175,7 +175,8 @@ void Command1_Click() {
 void Form_Unload() {
     if (setup_done) return;
     platform::Delete_File(Own_File(Settings_File));
-    Show_Message("You didn't finish setup process, program will end", platform::Icon::Information);
+    platform::Message_Box("You didn't finish setup process, program will end",
+                          platform::Icon::Information);
     platform::End_Program();
 }
 

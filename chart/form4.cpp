@@ -2,7 +2,6 @@
 
 #include "app/form5.h"
 #include "app/form6.h"
-#include "app/messages.h"
 #include "chart/current_chart.h"
 #include "chart/draw_chart.h"
 #include "chart/printing.h"
@@ -10,6 +9,7 @@
 #include "keys/form8.h"
 #include "keys/keys.h"
 #include "platform/controls.h"
+#include "platform/message_box.h"
 #include "platform/program.h"
 #include "platform/timers.h"
 #include "selection/form3.h"
@@ -206,7 +206,7 @@ void Open_Simulator_Link() {
     std::int32_t result = 0;
     chart_view.link_open = Open_Link(Simulator_FS2002, result);
     if (chart_view.link_open) return;
-    Show_Message(
+    platform::Message_Box(
         "This program couldn't connect to the FS2002. Anyway this program will still display the "
         "currently airport's chart.",
         platform::Icon::Exclamation);
@@ -238,7 +238,7 @@ void Form_Load() {
     platform::Start_Timer(Chart_Refresher);
     Show_Paused(false);
     if (!Set_Up_Printer()) {
-        Show_Message(
+        platform::Message_Box(
             "Your Microsoft Windows Version doesn't support the current API used by this program. "
             "The program will shutdown.",
             platform::Icon::Critical);
@@ -287,7 +287,7 @@ void show_all_cfreq_Click() {
     text += "\r\nDeparture Frequency: " + airport.departure_freq;
     text += "\r\nApproach Frequency: " + airport.approach_freq;
     text += "\r\nCenter Frequency: " + airport.center_freq;
-    Show_Message(text, platform::Icon::Information);
+    platform::Message_Box(text, platform::Icon::Information);
 }
 
 }  // namespace

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <string>
 
-#include "app/messages.h"
 #include "chart/current_chart.h"
 #include "chart/draw_chart.h"
 #include "chart/form4.h"
+#include "platform/message_box.h"
 #include "platform/printer.h"
 #include "selection/rounding.h"
 
@@ -63,8 +63,8 @@ bool Set_Up_Printer() {
 void print_cht1_Click() {
     Stop_Timers();
     if (!Print_Page()) {
-        Show_Message("Error - Maybe the printer is not ready or propertly connected.",
-                     platform::Icon::Critical);
+        platform::Message_Box("Error - Maybe the printer is not ready or propertly connected.",
+                              platform::Icon::Critical);
         return;
     }
     platform::Minimise(window);

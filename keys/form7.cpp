@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "app/messages.h"
 #include "app/settings.h"
 #include "chart/form4.h"
 #include "keys/form8.h"
 #include "keys/keys.h"
 #include "platform/controls.h"
 #include "platform/files.h"
+#include "platform/message_box.h"
 
 namespace skerrand::form7 {
 
@@ -112,9 +112,9 @@ void Command1_Click() {
         settings = settings_edit;
         const std::string reason = Save_Settings();
         if (!reason.empty()) {
-            Show_Message(Own_File(Settings_File) + " cannot be written: " + reason +
-                             ". The new keys hold until the program ends.",
-                         platform::Icon::Exclamation);
+            platform::Message_Box(Own_File(Settings_File) + " cannot be written: " + reason +
+                                      ". The new keys hold until the program ends.",
+                                  platform::Icon::Exclamation);
         }
     }
     platform::Unload(window);

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "app/messages.h"
 #include "app/settings.h"
 #include "chart/form4.h"
 #include "platform/controls.h"
+#include "platform/message_box.h"
 #include "platform/program.h"
 #include "platform/timers.h"
 #include "scenery/database.h"
@@ -122,13 +122,14 @@ void Show_Search(int done, int files) {
 }
 
 void Tell_Unread(const Unread_Files& unread) {
-    Show_Message(std::to_string(unread.count) + " of the " + std::to_string(airspace_file_count) +
-                     " scenery files with airspaces cannot be read, so the charts lack their "
-                     "airspaces. The first of them is\r\n" +
-                     unread.first + "\r\nIf your scenery has changed, end this program, delete " +
-                     Settings_File + ", " + Airports_File + " and " + Airspaces_File + " in " +
-                     app_path + " and start it again; it will then create its database anew.",
-                 platform::Icon::Exclamation);
+    platform::Message_Box(
+        std::to_string(unread.count) + " of the " + std::to_string(airspace_file_count) +
+            " scenery files with airspaces cannot be read, so the charts lack their "
+            "airspaces. The first of them is\r\n" +
+            unread.first + "\r\nIf your scenery has changed, end this program, delete " +
+            Settings_File + ", " + Airports_File + " and " + Airspaces_File + " in " + app_path +
+            " and start it again; it will then create its database anew.",
+        platform::Icon::Exclamation);
 }
 
 /// "GET AIRPORT" goes on to the chart, once an entry is picked in both lists.

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "app/form2.h"
-#include "app/messages.h"
 #include "app/settings.h"
 #include "platform/controls.h"
 #include "platform/files.h"
+#include "platform/message_box.h"
 #include "platform/program.h"
 #include "platform/timers.h"
 #include "scenery/bgl_reader.h"
@@ -41,11 +41,12 @@ void Load_Grid() {
     if (told || result == Magdec_Result::Loaded || result == Magdec_Result::No_Grid) return;
     told = true;
     const bool missing = result == Magdec_Result::Missing;
-    Show_Message("The file " + fs_root + "\\scenery\\magdec.bgl " +
-                     (missing ? "cannot be read" : "is damaged") +
-                     ". Skerrand goes on without the magnetic variation: all headings and courses "
-                     "will be true ones.",
-                 Icon::Exclamation);
+    platform::Message_Box(
+        "The file " + fs_root + "\\scenery\\magdec.bgl " +
+            (missing ? "cannot be read" : "is damaged") +
+            ". Skerrand goes on without the magnetic variation: all headings and courses "
+            "will be true ones.",
+        Icon::Exclamation);
 }
 
 void Delete_Databases() {
@@ -56,10 +57,11 @@ void Delete_Databases() {
 /// Without its list of areas the scenery cannot be scanned: the way on is another folder.
 void Go_Back_To_Setup() {
     platform::Stop_Timer(Read_Sceneries_Paths);
-    Show_Message("The file " + fs_root +
-                     "\\scenery.cfg cannot be read, so that the scenery cannot be scanned. Please "
-                     "choose the main folder of a complete Flight Simulator 2002.",
-                 Icon::Critical);
+    platform::Message_Box(
+        "The file " + fs_root +
+            "\\scenery.cfg cannot be read, so that the scenery cannot be scanned. Please "
+            "choose the main folder of a complete Flight Simulator 2002.",
+        Icon::Critical);
     Delete_Own_Files();
     platform::Unload(window);
     platform::Show(form2::window);
@@ -76,7 +78,7 @@ void Start_Scan(bool tell_first_run) {
     platform::Stop_Timer(Read_Sceneries_Paths);
     platform::Set_Interval(Read_Sceneries_Paths, 0);
     if (tell_first_run) {
-        Show_Message(
+        platform::Message_Box(
             "This is the first time you run this program. Now this program will create a database "
             "file of all the airports of the FS2002 world. This process can take a few minutes, "
             "please wait.",
@@ -87,10 +89,11 @@ void Start_Scan(bool tell_first_run) {
 
 /// A database that is missing or does not read back whole is built anew.
 void Rebuild(const char* file) {
-    Show_Message("The database file " + Own_File(file) +
-                     " is missing or damaged. Now this program will create it anew from the "
-                     "scenery. This process can take a few minutes, please wait.",
-                 Icon::Exclamation);
+    platform::Message_Box(
+        "The database file " + Own_File(file) +
+            " is missing or damaged. Now this program will create it anew from the "
+            "scenery. This process can take a few minutes, please wait.",
+        Icon::Exclamation);
     first_run = true;
     Delete_Databases();
     Start_Scan(false);
@@ -129,10 +132,11 @@ bool Write_Files() {
     }
     if (reason.empty()) return true;
     Delete_Databases();
-    Show_Message("The file " + Own_File(file) + " cannot be written: " + reason +
-                     ". The program will end. Please make the folder writable, or make room in it, "
-                     "and start the program again.",
-                 Icon::Critical);
+    platform::Message_Box(
+        "The file " + Own_File(file) + " cannot be written: " + reason +
+            ". The program will end. Please make the folder writable, or make room in it, "
+            "and start the program again.",
+        Icon::Critical);
     platform::End_Program();
     return false;
 }
@@ -149,11 +153,12 @@ void Tell_Gaps() {
                 unread.first + "\r\n";
     }
     if (text.empty()) return;
-    Show_Message(text + "To start again, end this program, delete " + Settings_File + ", " +
-                     Airports_File + " and " + Airspaces_File + " in " + app_path +
-                     " and start it again; it will then ask for your Flight Simulator's folder and "
-                     "create its database anew.",
-                 Icon::Exclamation);
+    platform::Message_Box(
+        text + "To start again, end this program, delete " + Settings_File + ", " + Airports_File +
+            " and " + Airspaces_File + " in " + app_path +
+            " and start it again; it will then ask for your Flight Simulator's folder and "
+            "create its database anew.",
+        Icon::Exclamation);
 }
 
 void End_Scan() {
@@ -162,7 +167,7 @@ void End_Scan() {
     platform::Bytes().swap(bgl_bytes);
     if (!Write_Files()) return;
     Tell_Gaps();
-    Show_Message(
+    platform::Message_Box(
         "The Database File was created successfully!. Now this program will add all airports to "
         "the list, please wait.",
         Icon::Information);

@@ -11,6 +11,15 @@ namespace skerrand {
 
 namespace {
 
+// Pi and two pi are these decimals, not the full values: every stored position and drawn pixel
+// follows from them. A nautical mile is one minute of arc.
+constexpr double Pi = 3.14159265358979;
+constexpr double Two_Pi = 6.28318530717958;
+constexpr double Degrees_To_Radians = Pi / 180;
+constexpr double Radians_To_Degrees = 180 / Pi;
+constexpr double Radians_To_Miles = 10800 / Pi;
+constexpr double Miles_To_Radians = Pi / 10800;
+
 constexpr double Feet_Per_Mile = 6080;  // the round figure, not 6076
 constexpr double Meters_Per_Mile = 1852;
 constexpr double Longest = 32767;  // distances are 16-bit

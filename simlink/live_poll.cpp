@@ -4,11 +4,11 @@
 #include <charconv>
 #include <string>
 
-#include "app/messages.h"
 #include "chart/chart_view.h"
 #include "chart/current_chart.h"
 #include "chart/form4.h"
 #include "platform/controls.h"
+#include "platform/message_box.h"
 #include "platform/timers.h"
 #include "platform/window.h"
 #include "selection/rounding.h"
@@ -77,7 +77,7 @@ void Show_Altimeter() {
 }
 
 void Lose_Link() {
-    Show_Message(
+    platform::Message_Box(
         "Error while receiving data from FSUIPC. Anyway this program will still display the "
         "currently airport's chart.",
         platform::Icon::Exclamation);
