@@ -38,8 +38,9 @@ Pixel_Point Corner(const Pass& pass, int course, int miles) {
 
 void Draw_Circle(const Pass& pass, Boundary_Point& point) {
     point.radius = std::max(point.radius, 1);
-    const Pixel_Point nw = Corner(pass, Course_To_Corner_Nw, point.radius);
-    const Pixel_Point se = Corner(pass, Course_To_Corner_Se, point.radius);
+    const std::int32_t miles = std::min(point.radius, 32767);  // distances are 16-bit
+    const Pixel_Point nw = Corner(pass, Course_To_Corner_Nw, miles);
+    const Pixel_Point se = Corner(pass, Course_To_Corner_Se, miles);
     platform::Ellipse(pass.target.device, nw.x, nw.y, se.x, se.y);
 }
 

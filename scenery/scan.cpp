@@ -1,6 +1,7 @@
 #include "scenery/scan.h"
 
 #include <cstddef>
+#include <set>
 #include <vector>
 
 #include "app/settings.h"
@@ -19,8 +20,11 @@ std::string current_folder;
 std::vector<std::string> folder_files;
 std::size_t next_file = 0;
 Unread_Files unread;
+std::set<std::string> unread_paths;
 
+/// Two areas may share a folder.
 void Note_Unread(const std::string& path) {
+    if (!unread_paths.insert(path).second) return;
     if (unread.count++ == 0) unread.first = path;
 }
 
@@ -50,6 +54,7 @@ std::optional<int> Prepare_Scan(std::span<const std::string> drive_entries) {
     current_folder.clear();
     current_file.clear();
     unread = {};
+    unread_paths.clear();
     Release_Airport_Table();
     airport_count = 0;
     Release_Airspace_Files();

@@ -179,14 +179,15 @@ std::string Parking_Name(std::int32_t packed, std::string_view& label) {
 }
 
 void Name_Taxiways(const std::vector<std::string>& names, std::vector<Taxi_Path>& paths) {
+    // What each name leads to in the end; those behind it are known already.
+    std::vector<const std::string*> last(names.size());
+    for (std::size_t i = names.size(); i-- > 0;) {
+        const std::size_t next = Decimal_Number(names[i], names.size());
+        last[i] = next > i && next < names.size() ? last[next] : &names[i];
+    }
     for (Taxi_Path& path : paths) {
-        if (path.kind != Path_Taxiway) continue;
-        std::size_t number = 0;
-        for (std::size_t next = 0;
-             (number = Decimal_Number(path.name, names.size())) >= next && number < names.size();
-             next = number + 1) {
-            path.name = names[number];
-        }
+        const std::size_t number = Decimal_Number(path.name, names.size());
+        if (path.kind == Path_Taxiway && number < names.size()) path.name = *last[number];
     }
 }
 

@@ -44,8 +44,9 @@ Unread_Files Search_Files(void (*show_progress)(int done, int files)) {
             for (const std::string& file : found.value_or(std::vector<std::string>()))
                 names.emplace(platform::Lower_Case(file), file);
         }
-        const auto [first, last] = names.equal_range(listed.substr(name));
-        bool sound = first != last;
+        const auto [first, last] = names.equal_range(platform::Lower_Case(listed.substr(name)));
+        // A list that another hand wrote may name what no listing of scenery shows.
+        bool sound = first != last || Walk_File(listed);
         for (auto file = first; file != last; ++file)
             sound = Walk_File(*folder + file->second) && sound;
         if (!sound && unread.count++ == 0) unread.first = listed;

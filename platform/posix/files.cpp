@@ -22,20 +22,20 @@ namespace {
 namespace fs = std::filesystem;
 using posix::Descriptor;
 using posix::Entry_Kind;
+using posix::Native_File;
 using posix::Native_Path;
 
 /// Never waits, also where a pipe or a device stands under the name.
 Descriptor Open_To_Read(std::string_view path) {
-    return Descriptor(open(Native_Path(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    return Descriptor(open(Native_File(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
 }
 
-/// Size of an open ordinary file; nothing for anything else and for a longer one than may be.
+/// Size of an open ordinary file; nothing for anything else.
 std::optional<std::size_t> Size_Of(const Descriptor& file) {
     struct stat status {};
     if (file.Get() < 0 || fstat(file.Get(), &status) != 0) return std::nullopt;
-    const auto size = static_cast<std::size_t>(status.st_size);
-    if (!S_ISREG(status.st_mode) || size > Largest_File) return std::nullopt;
-    return size;
+    if (!S_ISREG(status.st_mode)) return std::nullopt;
+    return static_cast<std::size_t>(status.st_size);
 }
 
 /// Reads until the part is full or the file ends. The bytes read; nothing on an error.
@@ -54,7 +54,7 @@ std::optional<std::size_t> Read_At(const Descriptor& file, std::size_t offset,
 
 bool Read_Whole(const Descriptor& file, Bytes& bytes, std::size_t spare) {
     const auto size = Size_Of(file);
-    if (!size) return false;
+    if (!size || *size > Largest_File) return false;
     try {
         // What the buffer held is overwritten, not cleared first: a buffer that serves one file
         // after the other is not filled with zeros ahead of each.
@@ -72,7 +72,7 @@ bool Read_Whole(const Descriptor& file, Bytes& bytes, std::size_t spare) {
 /// The file that a path leads to: behind a link, so that the file is replaced and the link stays.
 fs::path File_To_Replace(std::string_view path) {
     std::error_code error;
-    const fs::path native = fs::absolute(Native_Path(path), error);
+    const fs::path native = fs::absolute(Native_File(path), error);
     const fs::path target = fs::canonical(native, error);
     return error ? native : target;
 }
@@ -122,7 +122,7 @@ bool Replace(const fs::path& file, const std::string& temporary,
 
 bool File_Exists(std::string_view path) {
     std::error_code error;
-    return fs::is_regular_file(Native_Path(path), error);
+    return fs::is_regular_file(Native_File(path), error);
 }
 
 bool Folder_Exists(std::string_view path) {
@@ -180,7 +180,7 @@ void Remove_Leftovers(std::string_view path) {
 }
 
 void Delete_File(std::string_view path) {
-    unlink(Native_Path(path).c_str());
+    unlink(Native_File(path).c_str());
 }
 
 }  // namespace platform

@@ -11,8 +11,8 @@ namespace platform::posix {
 
 int Link_Socket(std::string_view window_class, int (*attach)(int, const sockaddr*, socklen_t)) {
     const char* const runtime = std::getenv("XDG_RUNTIME_DIR");
-    const std::string name =
-        std::string("skerrand/").append(window_class).append(runtime == nullptr ? "" : runtime);
+    std::string name = "skerrand/" + std::to_string(getuid()) + "/";
+    name.append(window_class).append(runtime == nullptr ? "" : runtime);
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     // Behind a zero byte, which makes the name an abstract one; cut off where a folder's is long.

@@ -17,8 +17,8 @@ struct Link_Reply {
 };
 
 /// A socket that was connected or bound (`attach` is `connect` or `bind`) to the name of a window
-/// class; negative with `errno` on failure. The name has $XDG_RUNTIME_DIR in it, so that programs
-/// with another one keep apart.
+/// class; negative with `errno` on failure. The name has the user's number and $XDG_RUNTIME_DIR
+/// in it, so that programs with others keep apart.
 int Link_Socket(std::string_view window_class, int (*attach)(int, const sockaddr*, socklen_t));
 
 /// Whether the process at the other end of a connection runs for the same user as this one: any

@@ -123,6 +123,27 @@ Way Furthest(const Way& way, std::span<const std::string_view> names) {
     return best;
 }
 
+/// The end of the path, a name that is not found as it was given. Where the folder of a file stands
+/// just as its path has it, no other folder will do.
+std::string Follow(std::string_view path, bool is_file) {
+    if (path.find('\0') != std::string_view::npos) return {};
+    const bool from_root = !path.empty() && separators.find(path.front()) != std::string_view::npos;
+    const auto names = Split(path, from_root);
+    const auto append = [](std::string native, std::span<const std::string_view> more) {
+        for (const std::string_view name : more)
+            native = Joined(native, To_Utf8(name));
+        return native;
+    };
+    Way way{from_root ? "/" : "", 0};
+    if (is_file && names.size() > 1) {
+        const std::string folder = append(way.native, std::span(names).first(names.size() - 1));
+        if (Stands(folder)) way = {folder, names.size() - 1};
+    }
+    way = Furthest(way, names);
+    const std::string native = append(way.native, std::span(names).subspan(way.followed));
+    return native.empty() ? "." : native;
+}
+
 }  // namespace
 
 std::optional<std::vector<Entry>> Entries(const std::string& native_folder, Entry_Kind kind) {
@@ -146,13 +167,11 @@ std::optional<std::vector<Entry>> Entries(const std::string& native_folder, Entr
 }
 
 std::string Native_Path(std::string_view path) {
-    if (path.find('\0') != std::string_view::npos) return {};
-    const bool from_root = !path.empty() && separators.find(path.front()) != std::string_view::npos;
-    const auto names = Split(path, from_root);
-    Way way = Furthest({from_root ? "/" : "", 0}, names);
-    for (const std::string_view name : std::span(names).subspan(way.followed))
-        way.native = Joined(way.native, To_Utf8(name));
-    return way.native.empty() ? "." : way.native;
+    return Follow(path, false);
+}
+
+std::string Native_File(std::string_view path) {
+    return Follow(path, true);
 }
 
 }  // namespace posix

@@ -15,6 +15,10 @@ namespace platform::posix {
 /// working folder. Empty for a path with a zero byte in it, which no file can have.
 std::string Native_Path(std::string_view path);
 
+/// The same for a file. If the folder that it is to lie in stands in just that letter case, the
+/// file is that folder's or nobody's: the program's own files are never those of a twin folder.
+std::string Native_File(std::string_view path);
+
 enum class Entry_Kind : std::uint8_t { Any, File, Folder };
 
 struct Entry {

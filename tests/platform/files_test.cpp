@@ -35,7 +35,8 @@ TEST(Files, Names_Are_Found_In_Any_Case_The_Exact_One_First) {
         {"../Scenery/none/../../scenery/.\\bgl/AP1.bgl", "(unread)"},
         {"none/../Scenery/none/../../scenery/.\\bgl/AP1.bgl", "AP1.bgl"},
         // A folder that does not hold the rest of the path is left for the next one.
-        {"data\\fs2002\\fs2002.exe", "fs2002.exe"},
+        {"data\\FS2002\\fs2002.exe", "fs2002.exe"},
+        {"data\\fs2002\\fs2002.exe", "(unread)"},  // this one stands as it is called
         {"DATA/FS2002/FS2002.exe", "fs2002.exe"},
         {"Scenery/Bgl", "(unread)"},
         {"Scenery/Bgl/ap3.bgl", "(unread)"},
