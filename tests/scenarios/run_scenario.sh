@@ -11,6 +11,7 @@
 #     > items Form3.Combo1          a command to the program
 #     ADAK (PADK)                   the lines of its answer; its "ok" is left out
 #     = Form2.caption Settings      a property and its value
+#     = running yes                 a question of one word and its only line
 #
 # In an answer "..." stands for any number of lines, a line that ends with "..." for every line
 # that starts so, two quotation marks for an empty line, and an empty line for one or none, since
@@ -108,9 +109,10 @@ to_new_chart() {
     to_chart
 }
 
-# press CODE: a key goes down and up.
+# press CODE...: keys go down in that order, all at once, and up again.
 press() {
-    say "key $1 down" 'advance 1' "key $1 up"
+    local down=("${@/%/ down}") up=("${@/%/ up}")
+    say "${down[@]/#/key }" 'advance 1' "${up[@]/#/key }"
 }
 
 # capture LINE CODE: picks a line of the list of keys and presses a key in the dialog for it.
@@ -124,7 +126,8 @@ do_step() {
     local rest=${1:2} others="${*:2}"
     case $1 in
         '> '*) tell "$rest" "${@:2}" ;;
-        '= '*) tell "get ${rest%% *}" "${rest#* }" "${@:2}" ;;
+        '= '*.*' '*) tell "get ${rest%% *}" "${rest#* }" "${@:2}" ;;
+        '= '*) tell "${rest%% *}" "${rest#* }" "${@:2}" ;;
         *) eval "$rest" && [ -z "${others// /}" ] || report "it is not so: $*" ;;
     esac
 }
