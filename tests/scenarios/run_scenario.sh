@@ -11,7 +11,7 @@
 #     > items Form3.Combo1          a command to the program
 #     ADAK (PADK)                   the lines of its answer; its "ok" is left out
 #     = Form2.caption Settings      a property and its value
-#     = running yes                 a question of one word and its only line
+#     = running yes                 the same of a question of one word
 #
 # In an answer "..." stands for any number of lines, a line that ends with "..." for every line
 # that starts so, two quotation marks for an empty line, and an empty line for one or none, since
@@ -126,7 +126,7 @@ do_step() {
     local rest=${1:2} others="${*:2}"
     case $1 in
         '> '*) tell "$rest" "${@:2}" ;;
-        '= '*.*' '*) tell "get ${rest%% *}" "${rest#* }" "${@:2}" ;;
+        '= Form'*) tell "get ${rest%% *}" "${rest#* }" "${@:2}" ;;
         '= '*) tell "${rest%% *}" "${rest#* }" "${@:2}" ;;
         *) eval "$rest" && [ -z "${others// /}" ] || report "it is not so: $*" ;;
     esac
