@@ -1,6 +1,7 @@
 #include "platform/headless/protocol.h"
 
 #include <gtest/gtest.h>
+#include <regex>
 #include <set>
 #include <sstream>
 
@@ -92,17 +93,14 @@ TEST_F(Protocol, A_Bad_Command_Is_No_Error_Or_Changes_Something) {
 
 TEST_F(Protocol, A_Verb_Is_Undocumented_Or_A_Documented_One_Unknown) {
     std::ifstream document(SKERRAND_DOCS "/headless.md");
+    const std::regex command("`(\\w+)[^`]*`");
     std::set<std::string> described;
     bool in_table = false;
     for (std::string line; std::getline(document, line);) {
         in_table = line.starts_with("| Command |") || (in_table && line.starts_with('|'));
         const std::string cell = in_table ? line.substr(0, line.find(" | ")) : "";
-        for (std::size_t start = cell.find('`'); start < cell.size();) {
-            const std::size_t end = cell.find('`', start + 1);
-            const std::string command = cell.substr(start + 1, end - start - 1);
-            described.insert(command.substr(0, command.find(' ')));
-            start = cell.find('`', end + 1);
-        }
+        for (std::sregex_iterator i(cell.begin(), cell.end(), command), end; i != end; ++i)
+            described.insert((*i)[1]);
     }
     const auto verbs = headless::Verbs();
     EXPECT_EQ(described, std::set<std::string>(verbs.begin(), verbs.end()));

@@ -14,9 +14,9 @@
 #     = running yes                 the same of a question of one word
 #
 # In an answer "..." stands for any number of lines, a line that ends with "..." for every line
-# that starts so, two quotation marks for an empty line, and an empty line for one or none, since
-# it also parts the exchanges. ${work} is the program's working folder, ${world} a folder beside it
-# that does not exist yet. The program has to end with status 0, also at the end of the scenario.
+# that starts so, and two quotation marks for an empty line. ${work} is the program's working folder,
+# ${world} a folder beside it that does not exist yet. The program has to end with status 0, also at
+# the end of the scenario.
 set -u
 trap '' PIPE # from a program that is gone
 program=$(realpath "$1") scenario=$(realpath "$2")
@@ -48,7 +48,7 @@ restart() {
 matches() {
     local line=${expected[$1]-} answered=${answer[$2]-}
     [ "$1" -lt ${#expected[@]} ] || return $(($2 < ${#answer[@]}))
-    case $line in '' | ...) matches $(($1 + 1)) "$2" && return ;; esac
+    [ "$line" = ... ] && matches $(($1 + 1)) "$2" && return
     [ "$2" -lt ${#answer[@]} ] || return
     case $line in
         ...) matches "$1" $(($2 + 1)) && return ;;
@@ -123,12 +123,12 @@ capture() {
 
 # do_step FIRST OTHERS...: what the lines of a scenario tell.
 do_step() {
-    local rest=${1:2} others="${*:2}"
+    local rest=${1:2}
     case $1 in
         '> '*) tell "$rest" "${@:2}" ;;
         '= Form'*) tell "get ${rest%% *}" "${rest#* }" "${@:2}" ;;
         '= '*) tell "${rest%% *}" "${rest#* }" "${@:2}" ;;
-        *) eval "$rest" && [ -z "${others// /}" ] || report "it is not so: $*" ;;
+        *) eval "$rest" && [ $# -eq 1 ] || report "it is not so: $*" ;;
     esac
 }
 
@@ -140,7 +140,7 @@ for number in "${!lines[@]}"; do
     if [[ $line == [=!\>]' '* ]]; then
         do_step "${step[@]}"
         step=("$line") place=$(basename "$2"):$((number + 1))
-    elif [[ $line != '#'* ]]; then
+    elif [[ $line != '' && $line != '#'* ]]; then
         step+=("$line")
     fi
 done

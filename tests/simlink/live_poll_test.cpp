@@ -46,6 +46,7 @@ TEST(Poll, RawValuesAreConvertedWrongly) {
 TEST(Simulator, StateAreaIsReadOrWrittenOutsideOrOutOfPlace) {
     platform::simulator::Start("UIPCMAIN");
     platform::simulator::Put(0xFFFF, 7, 1);
+    platform::simulator::Put(0, 5, 1);
     std::int32_t result = 99;
     ASSERT_TRUE(Open_Link(6, result));
     const std::uint32_t zeros = 0;
