@@ -24,6 +24,7 @@ PATH=$(dirname "$program"):$PATH
 # In lower case, as the program's list of files is.
 scratch=$(realpath "${TMPDIR:-/tmp}")/skerrand_$$
 work=$scratch/work world=$scratch/world pid='' failed=0 last=()
+rm -rf "$scratch" # of one that was killed
 mkdir -p "$work" && cd "$work" && mkfifo ../commands ../answers || exit 1
 
 report() {
