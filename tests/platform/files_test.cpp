@@ -23,7 +23,7 @@ std::string Content(std::string_view path) {
 TEST(Files, Names_Are_Found_In_Any_Case_The_Exact_One_First) {
     const Scratch_Folder scratch;
     for (const char* name : {"Scenery/Bgl/AP1.bgl", "Scenery/Bgl/ap1.bgl", "Scenery/Bgl/Ap2.BGL",
-                             "Scenery/Bgl/aP2.BGL", "Scenery/\xC3\x84rger.bgl", "scenery2/x",
+                             "Scenery/Bgl/aP2.BGL", "Scenery/\xC3\x84\xC3\xB6.bgl", "scenery2/x",
                              "Data/FS2002/fs2002.exe", "Data/Sub/x", "data/fs2002/x", "dATA"})
         Scratch_Folder::Put(name, fs::path(name).filename());
     const std::pair<std::string, std::string> cases[] = {
@@ -31,7 +31,7 @@ TEST(Files, Names_Are_Found_In_Any_Case_The_Exact_One_First) {
         {"SCENERY\\bgl\\AP1.bgl", "AP1.bgl"},
         {"scenery//\\BGL/ap1.BGL", "AP1.bgl"},  // the first by the bytes of the equal ones
         {"scenery\\bgl\\ap2.bgl", "Ap2.BGL"},
-        {scratch.Path() + "\\SCENERY\\\xE4RGER.BGL", "\xC3\x84rger.bgl"},
+        {scratch.Path() + "\\SCENERY\\\xE4\xD6.BGL", "\xC3\x84\xC3\xB6.bgl"},
         {"../Scenery/none/../../scenery/.\\bgl/AP1.bgl", "(unread)"},
         {"none/../Scenery/none/../../scenery/.\\bgl/AP1.bgl", "AP1.bgl"},
         // A folder that does not hold the rest of the path is left for the next one.

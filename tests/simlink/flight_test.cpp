@@ -14,12 +14,14 @@ using skerrand::Airport_Info;
 constexpr double Degree = std::numbers::pi / 180;
 constexpr double Metres = 111120;  // to the degree
 
-/// An airport with a runway of that heading and length.
+/// An airport whose longest runway has that heading and length; one beside it is damaged.
 Airport_Info Airport(double lat, double lon, double heading, double length) {
     const double north = std::cos(heading * Degree) * length / 2 / Metres;
     const double east = std::sin(heading * Degree) * length / 2 / Metres / std::cos(lat * Degree);
     Airport_Info airport;
-    airport.runways.push_back({"", "", lat - north, lon - east, lat + north, lon + east});
+    airport.runways = {{"", "", lat - north, lon - east, lat + north, lon + east},
+                       {"", "", lat, lon, lat + north, lon + east},
+                       {"", "", lat, lon, lat, NAN}};
     return airport;
 }
 
@@ -72,15 +74,6 @@ TEST(Flight, Jumps_Or_Points_Elsewhere_Or_Does_Not_Arrive) {
                   1);
     }
     EXPECT_NEAR(Aircraft_At(Plan_Flight(home, nullptr), 3600).lat, 42.65, 0.1) << "straight on";
-}
-
-TEST(Flight, Damaged_Or_Short_Runway_Is_Taken_For_The_Longest) {
-    Airport_Info airport = Airport(10, 20, 0, 99);
-    airport.runways.push_back(airport.runways[0]);
-    airport.runways[1].lon_2 = NAN;
-    EXPECT_EQ(Longest_Runway(airport).angle, 0);
-    airport.runways.insert(airport.runways.begin() + 1, Airport(10, 20, 0, 101).runways[0]);
-    EXPECT_NEAR(Longest_Runway(airport).angle / Degree * Metres, 101, 0.1);
 }
 
 TEST(Simulator_Options, Command_Line_Misread) {

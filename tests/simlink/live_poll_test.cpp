@@ -45,24 +45,20 @@ TEST(Poll, RawValuesAreConvertedWrongly) {
 
 TEST(Simulator, StateAreaIsReadOrWrittenOutsideOrOutOfPlace) {
     platform::simulator::Start("UIPCMAIN");
-    auto& area = platform::simulator::stand_in.state_area;
+    platform::simulator::Put(0xFFFF, 7, 1);
+    platform::simulator::Put(0, 5, 1);
     std::int32_t result = 99;
     ASSERT_TRUE(Open_Link(6, result));
-    area[0xFFFF] = 7;
     const std::uint32_t zeros = 0;
-    std::uint32_t at_end = 9, outside = 9, far = 9, version = 0;
-    Queue_Read(0xFFFF, 4, &at_end, result);
-    Queue_Read(0x10000, 4, &outside, result);
-    Queue_Read(0xFFFFFFFF, 4, &far, result);
-    Queue_Write(0x3308 + 1, 4, &zeros, result);
-    Queue_Write(0xFFFF, 4, &zeros, result);
-    Queue_Write(0xFFFFFFFF, 4, &zeros, result);
-    Queue_Read(0x3308, 4, &version, result);
-    EXPECT_TRUE(Process_Queue(result));
-    EXPECT_EQ(at_end, 7U);
-    EXPECT_EQ(outside + far, 0U);
-    EXPECT_EQ(version, 0xFADE0006);
-    EXPECT_EQ(area[0xFFFF], 0);
+    for (const auto& [offset, before, after] : std::initializer_list<std::array<std::uint32_t, 3>>{
+             {0xFFFF, 7, 0}, {0x10000, 0, 0}, {0xFFFFFFFF, 0, 0}, {0x3309, 0xFADE00, 0xFADE00}}) {
+        std::uint32_t read = 9, again = 9;
+        Queue_Read(offset, 4, &read, result);
+        Queue_Write(offset, 4, &zeros, result);
+        Queue_Read(offset, 4, &again, result);
+        EXPECT_TRUE(Process_Queue(result));
+        EXPECT_EQ(std::pair(read, again), std::pair(before, after)) << offset;
+    }
     Close_Link();
 }
 
