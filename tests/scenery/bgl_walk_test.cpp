@@ -149,18 +149,13 @@ TEST(Airspace_Walk, File_Missed_Or_Listed_Without_Airspaces) {
 
 TEST(Airspace_Walk, Wrong_Mode_Or_File_Compared) {
     Load(Sample());
-    const struct {
-        const char* file;
-        bool first, ready;
-    } walks[] = {{"search", false, true},
-                 {"a", false, false},
-                 {"a", true, false},
-                 {"b", true, true},
-                 {"a", true, false}};
-    for (const auto& walk : walks) {
-        current_file = walk.file;
-        first_run = walk.first;
-        database_ready = walk.ready;
+    // In a search nothing is listed, and a file twice only if another comes between.
+    const std::pair<const char*, int> walks[] = {
+        {"search", 0b01}, {"a", 0b00}, {"a", 0b10}, {"b", 0b11}, {"a", 0b10}};
+    for (const auto& [file, modes] : walks) {
+        current_file = file;
+        first_run = (modes & 0b10) != 0;
+        database_ready = (modes & 0b01) != 0;
         Walk_Bgl();
         EXPECT_EQ(airport_table.empty(), current_file == "search");
     }

@@ -81,7 +81,7 @@ TEST(Airspace_Search, FileUnreadOrReadForAnother) {
     const std::string sound = Saved("sound.bgl", bytes);
     bytes[0x76] = 0;
     const std::string foreign = Saved("foreign.bgl", bytes),
-                      twin = testing::TempDir() + "FOREIGN.bgl";
+                      twin = testing::TempDir() + "/FOREIGN.bgl";
     std::filesystem::copy(sound, twin);
     EXPECT_EQ(Search({foreign, Saved("short.bgl", Bytes(0x79)), sound}).count, 0);
     EXPECT_EQ(departure_airspaces.size(), 2) << "a list in lower case stands for both";
