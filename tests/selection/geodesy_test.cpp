@@ -47,7 +47,7 @@ TEST(Geodesy, DestinationsOfZeroAndNegativeDistances) {
 TEST(Geodesy, VariationIsTakenFromTheNearestGridPoint) {
     magnetic_table.fill(0);
     const std::pair<std::size_t, std::int16_t> values[] = {
-        {90, 1821}, {90 + 181 * 359, -3642}, {138 + 181 * 238, 3096}};  // 10, -20 and 17 degrees
+        {90, 1821}, {90 + 181 * 359, -3641}, {138 + 181 * 238, 3095}};  // 10, -20 and 17 degrees
     for (const auto& [place, value] : values)
         magnetic_table[place] = value;
     EXPECT_EQ(True_To_Magnetic(5, 0.5, -0.4), 355);
