@@ -6,15 +6,13 @@
 #include "platform/controls.h"
 #include "tests/scenery/bgl_builder.h"
 
-namespace skerrand {
-namespace {
+using namespace skerrand;
 
 const Settings_Rec Sample{
     "Skerrand v2.0", 1, 1, "/caf\xE9", 27000, 0x01020304, 49, 50, 107, 109, -65};
 
 TEST(Settings, FieldAtAnotherOffsetOrCutFileTakenForWhole) {
-    const platform::Bytes head = {13, 0}, marks = {1, 1, 5, 0};
-    const platform::Bytes whole = Settings_Bytes(Sample);
+    const platform::Bytes whole = Settings_Bytes(Sample), head = {13, 0}, marks = {1, 1, 5, 0};
     EXPECT_EQ(whole, bgl::Join({head, bgl::Text("Skerrand v2.0"), marks, bgl::Text("/caf\xE9"),
                                 bgl::Longs({27000, 0x01020304, 49, 50, 107, 109, -65})}));
     Settings_Rec record;
@@ -30,20 +28,19 @@ TEST(Settings, FieldAtAnotherOffsetOrCutFileTakenForWhole) {
 TEST(Settings, SavingCutsTheBytesBehindTheRecord) {
     Set_App_Path(testing::TempDir());
     settings = Sample;
-    const platform::Bytes rest = {1, 2, 3};
-    platform::Bytes longer = bgl::Join({Settings_Bytes(settings), rest});
-    ASSERT_EQ(platform::Write_File(Own_File(Settings_File), longer), "");
+    const std::string file = Own_File(Settings_File);
+    platform::Bytes longer = bgl::Join({Settings_Bytes(settings), {1, 2, 3}});
+    ASSERT_EQ(platform::Write_File(file, longer), "");
     settings.airport_count = 5;
     ASSERT_EQ(Save_Settings(), "");
-    ASSERT_TRUE(platform::Read_File(Own_File(Settings_File), longer));
-    EXPECT_EQ(longer, bgl::Join({Settings_Bytes(settings), rest}));
-    platform::Delete_File(Own_File(Settings_File));
+    ASSERT_TRUE(platform::Read_File(file, longer));
+    EXPECT_EQ(longer, bgl::Join({Settings_Bytes(settings), {1, 2, 3}}));
+    platform::Delete_File(file);
 }
 
 TEST(Settings, SeparatorOfARootDoubledOrOfAFolderLost) {
     platform::Show(form2::window);
-    const platform::Control_Ref text{&form2::window, 8};
-    ASSERT_STREQ(form2::window.controls[8].name, "Text1");
+    const platform::Control_Ref text{&form2::window, 8};  // Text1
     const std::tuple<const char*, const char*, const char*> cases[] = {
         {"/", "", "/"}, {"/fs", "/fs", "fs"}, {"d:\\", "d:", "d:"}, {"/sim", "/sim", "/sim"}};
     for (const auto& [folder, working_folder, chosen] : cases) {
@@ -53,6 +50,3 @@ TEST(Settings, SeparatorOfARootDoubledOrOfAFolderLost) {
         EXPECT_EQ(platform::Text_Of(text), chosen) << "only three characters lose it";
     }
 }
-
-}  // namespace
-}  // namespace skerrand

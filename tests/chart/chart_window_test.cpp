@@ -48,10 +48,8 @@ class Chart_With_Printer : public testing::Test {
         Ask("resize Form4 1000 700");
     }
     static std::string Picture(int zoom) {
-        while (chart_view.zoom_rate < zoom)
-            form4::Command2_Click();
-        while (chart_view.zoom_rate > zoom)
-            form4::Command4_Click();
+        while (chart_view.zoom_rate != zoom)
+            chart_view.zoom_rate < zoom ? form4::Command2_Click() : form4::Command4_Click();
         Ask("advance 1000");
         return Ask("picture Form4");
     }
@@ -117,31 +115,24 @@ TEST_F(Chart_With_Printer, APreferenceSwitchesMoreOrLessThanItsOwn) {
 }
 
 TEST_F(Chart_With_Printer, ATimerRunsInAStateWhereItShouldNot) {
-    const std::string live = "yes\nyes\n", paused = "no\nyes\n", dialog = "no\nno\n";
-    const std::pair<const char*, std::string> steps[] = {
-        {"advance 1000", live},
-        {"click Form4.p_r_refresh", paused},
-        {"click Form4.p_r_refresh", live},
-        {"minimise Form4", paused},
-        {"click Form4.Command2", paused},
-        {"restore Form4", live},
-        {"click Form4.pref1", dialog},
-        {"close Form5", live},
-        {"click Form4.skerrand_abot2", dialog},
-        {"close Form6", live},
-        {"click Form4.kb_assign1", dialog},
-        {"close Form7", live},
-        {"click Form4.p_r_refresh", paused},
-        {"resize Form4 900 700", live},
-        {"click Form4.p_r_refresh", paused},
-        {"click Form4.print_cht1", live},
-    };
-    for (const auto& [command, timers] : steps) {
+    const auto timers = [](const std::string& command) {
         Ask(command);
-        EXPECT_EQ(
-            Ask("get Form4.Chart_Refresher.enabled") + Ask("get Form4.KeyPress_Checker.enabled"),
-            timers)
-            << command;
+        return Ask("get Form4.Chart_Refresher.enabled") + Ask("get Form4.KeyPress_Checker.enabled");
+    };
+    const std::string live = "yes\nyes\n", paused = "no\nyes\n", dialog = "no\nno\n";
+    EXPECT_EQ(timers("advance 1000"), live);
+    EXPECT_EQ(timers("minimise Form4"), paused);
+    EXPECT_EQ(timers("click Form4.Command2"), paused);
+    EXPECT_EQ(timers("restore Form4"), live);
+    for (const auto& [menu, form] :
+         {std::pair("pref1", "Form5"), {"skerrand_abot2", "Form6"}, {"kb_assign1", "Form7"}}) {
+        EXPECT_EQ(timers(std::string("click Form4.") + menu), dialog) << menu;
+        EXPECT_EQ(timers(std::string("close ") + form), live) << form;
+    }
+    for (const char* resumed :
+         {"click Form4.p_r_refresh", "resize Form4 900 700", "click Form4.print_cht1"}) {
+        EXPECT_EQ(timers("click Form4.p_r_refresh"), paused);
+        EXPECT_EQ(timers(resumed), live) << resumed;
     }
 }
 

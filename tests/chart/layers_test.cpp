@@ -33,15 +33,6 @@ void Clear_Chart(double degrees, std::int16_t zoom) {
     show_airport_name = false;
 }
 
-TEST(Airport_Layers, ParkingOutsideTheViewOrOnItsBound) {
-    Clear_Chart(0.01, Zoom_Airport);
-    current_airport.parkings = {
-        {"GATE A 1", 0.005, 0, 50}, {"BOUND", 0.01, 0, 50}, {"OUT", 0, -0.0101, 5000}};
-    EXPECT_EQ(Drawn(),
-              "ellipse 196 104 204 96 | solid 2 128,64,64 | solid 128,64,64\n"
-              "text 200 100 GATE A 1 | 0,0,0\n");
-}
-
 TEST(Airport_Layers, PathIsDroppedDrawnTwiceOrReadOutsideItsTables) {
     Clear_Chart(0.01, Zoom_Airport);
     current_airport.taxi_points = {{0, 0, 0}, {0, 0, 0.005}, {0, 0.02, 0}, {0, 0.02, 0.02}};
@@ -89,11 +80,15 @@ TEST(Airport_Layers, RunwayOutsideTheViewIsGoneOrWithoutItsLabels) {
     EXPECT_EQ(Drawn(), line);
 }
 
-TEST(Airport_Layers, BeamPointsTheWrongWay) {
+TEST(Airport_Layers, PlaceOnTheViewsBoundIsDrawnOrABeamPointsTheWrongWay) {
     Clear_Chart(0.01, Zoom_Airport);
+    current_airport.parkings = {
+        {"GATE A 1", 0.005, 0, 50}, {"BOUND", 0.01, 0, 50}, {"OUT", 0, -0.0101, 5000}};
     // A beam flown northwards opens to the south: 1800 feet are 0.29605 miles, 99 pixels.
     current_airport.ils = {{"ILS", 0, 0, 0, "110.3"}, {"OUT", 0.01, 0, 0, "1"}};
     EXPECT_EQ(Drawn(),
+              "ellipse 196 104 204 96 | solid 2 128,64,64 | solid 128,64,64\n"
+              "text 200 100 GATE A 1 | 0,0,0\n"
               "line 200 200 209 298 | solid 1 255,255,0\nline 209 298 191 298 | solid 1 255,255,0\n"
               "line 191 298 200 200 | solid 1 255,255,0\ntext 200 200 110.3 Mhz | 0,0,0\n");
 }
@@ -105,8 +100,7 @@ void Add(std::string_view label, std::vector<Boundary_Point> boundary) {
 
 TEST(Airspace_Layer, OutlineIsBentOrTurnedTheWrongWay) {
     Clear_Chart(2, Zoom_Airport - 1);
-    // 60 miles are a degree; the corner of an arc's square is 85 miles off, those of a circle of
-    // 120 miles lie 120 miles off.
+    // 60 miles are a degree, and the corners of a circle's square lie its radius off.
     const auto unknown = static_cast<Boundary_Kind>(6);
     Add(Label_Class_B, {{Point_Start, 1, 0},
                         {Point_Center, 0, 0},

@@ -1,11 +1,10 @@
 // The readers of files that nobody vouches for, varied by libFuzzer until a promise breaks:
-//   fuzz FOLDER [SAMPLES|OPTION]...
-// FOLDER bears the name of the reader, and takes what is found and samples like those of the tests.
+//   fuzz FOLDER [OPTION]...
+// FOLDER bears the name of the reader, and takes the samples to begin with and what is found.
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <span>
 #include <string>
 
@@ -19,10 +18,9 @@
 #include "tests/scenery/bgl_builder.h"
 
 using namespace skerrand;
+using namespace skerrand::bgl;
 
 namespace {
-
-using bgl::Bytes;
 
 void Check(bool promise) {
     if (!promise) std::abort();
@@ -47,7 +45,7 @@ void Fuzz_Table(Bytes file) {
 
 /// Scanned for the database first, then searched for airspaces.
 void Fuzz_Bgl(Bytes file) {
-    bgl::Load(file);
+    Load(file);
     for (const bool search : {false, true}) {
         first_run = !search;
         database_ready = search;
@@ -61,11 +59,10 @@ void Fuzz_Magdec(Bytes file) {
     constexpr std::int16_t Untouched = 0x5A5A;
     const std::size_t length = std::size_t{2} * static_cast<std::uint16_t>(Take_Count(file));
     file.resize(length);
-    bgl_bytes = bgl::Join({file, {0}});
+    bgl_bytes = Join({file, {0}});
     magnetic_table.fill(Untouched);
-    if (Take_Grid() != Magdec_Result::Loaded) {
+    if (Take_Grid() != Magdec_Result::Loaded)
         return Check(std::ranges::count(magnetic_table, Untouched) == std::ssize(magnetic_table));
-    }
     Check(static_cast<std::size_t>(Read_Long(110)) + 8 + 2 * Grid_Values <= length);
     Check(magnetic_table[Grid_Values] == Untouched);
 }
@@ -103,22 +100,34 @@ constexpr std::pair<std::string_view, void (*)(Bytes)> readers[] = {
 };
 void (*reader)(Bytes) = nullptr;
 
+constexpr std::string_view areas =
+    "[Area.001]\r\nTitle=T\r\nTexture_ID=1\r\nLocal=Scenery\r\nRemote=\r\nActive=TRUE\r\n"
+    "[Area.2]\nLocal=\\\\net\\share\nRequired=\n[Area.001]\n[Area.2]\r\rlocal=c:/fs\r[[Area.2[] \r"
+    "Title=[Area.3]\r[Area.3] x\rLocal= / \r[Area.3]]\r";
+
+/// The start of a file of that length whose grid's section stands at that place.
+Bytes Magdec(std::int64_t length, std::int64_t section) {
+    return Join({Prefix(Longs({length / 2}), 2), Bytes(110), Longs({section})});
+}
+
 void Write_Samples(const std::string& folder) {
-    using namespace bgl;
     Load(Sample());
     Walk_Bgl();
     const Bytes airports = Airport_Table_Bytes(std::span(airport_table).first(2));
+    const Settings_Rec texts{"Skerrand v2.0", 1, 1, "/fs2002", 27000, 12, 49, 50, 107, 109, 65};
     const Bytes samples[] = {
         Join({{2, 0}, airports}),
         Join({{2, 0}, Airspace_List_Bytes(std::vector<std::string>{"a", "b"})}),
         Sample(),
         Image({}, Join({Group(), Group(5), Group()})),
         Image({{"A", Record(0x10003, {}, -8)}}),
+        Text(areas),
+        Join({Settings_Bytes(texts), {7}}),
+        Magdec(130442, 114),
+        Magdec(130442, 115),
     };
-    for (std::size_t i = 0; i < std::size(samples); ++i) {
-        std::ofstream(folder + "/built_" + std::to_string(i), std::ios::binary)
-            << std::string(samples[i].begin(), samples[i].end());
-    }
+    for (std::size_t i = 0; i < std::size(samples); ++i)
+        platform::Write_File(folder + "/built_" + std::to_string(i), samples[i]);
 }
 
 }  // namespace

@@ -1,9 +1,8 @@
-#include "keys/keys.h"
-
 #include <gtest/gtest.h>
 
-namespace skerrand {
-namespace {
+#include "keys/keys.h"
+
+using namespace skerrand;
 
 TEST(Key_Names, ACodeHasTheNameOfItsNeighbour) {
     std::string names;
@@ -23,6 +22,3 @@ TEST(Key_Names, ACodeHasTheNameOfItsNeighbour) {
         named += Key_Name(code).size() > 1 ? 1 : 0;
     EXPECT_EQ(named, 88);
 }
-
-}  // namespace
-}  // namespace skerrand

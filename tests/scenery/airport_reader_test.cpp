@@ -31,11 +31,11 @@ TEST(Airport_Reader, Head_Records_Overwrite_Or_Stay) {
     EXPECT_EQ(airport.lat, 45);
     EXPECT_EQ(airport.lon, -90);
     EXPECT_EQ(airport.icao_id, "L\xCFPX");
-    EXPECT_EQ(airport.ground_freq, "121.9") << "the first stays";
-    EXPECT_EQ(airport.atis_freq, "123") << "no text before it";
-    EXPECT_EQ(airport.tower_freq + ' ' + airport.clearance_freq + ' ' + airport.approach_freq +
-                  ' ' + airport.departure_freq + ' ' + airport.center_freq,
-              "118.1 118.2 118.3 118.4 118.5");
+    // The first ground frequency stays, and of ATIS the first that has a text.
+    EXPECT_EQ(airport.ground_freq + ' ' + airport.atis_freq + ' ' + airport.tower_freq + ' ' +
+                  airport.clearance_freq + ' ' + airport.approach_freq + ' ' +
+                  airport.departure_freq + ' ' + airport.center_freq,
+              "121.9 123 118.1 118.2 118.3 118.4 118.5");
     const Bytes faults[] = {Record(0x10006, Text("WXYZ"), 999), Record(0x10006, {}, INT32_MAX),
                             Record(0x10003, {}, -8), Record(0x10003, {}, -2000000000)};
     for (const Bytes& fault : faults)
@@ -43,40 +43,33 @@ TEST(Airport_Reader, Head_Records_Overwrite_Or_Stay) {
 }
 
 TEST(Airport_Reader, Runway_Identifiers_Wrong) {
-    const std::tuple<std::int32_t, std::int32_t, const char*> cases[] = {
-        {37, 0, "/"},      {36, 1, "36L/18R"}, {18, 0, "18/36"}, {9, 2, "9R/27L"},
-        {19, 3, "19C/1C"}, {1, 4, "1H/19H"},   {5, 5, "1H/19H"}, {5, -1, "1H/19H"},
-        {99, 1, "1H/19H"}, {-3, 1, "-3L/15R"},
-    };
     Bytes records;
-    for (const auto& [number, designator, ids] : cases)
+    for (const auto& [number, designator] : std::initializer_list<std::pair<int, int>>{
+             {37, 0}, {36, 1}, {18, 0}, {9, 2}, {19, 3}, {1, 4}, {5, 5}, {5, -1}, {99, 1}, {-3, 1}})
         records = Join({records, Runway({.designator = designator, .number = number})});
-    const Airport_Info airport = Read(records);
-    ASSERT_EQ(airport.runways.size(), std::size(cases));
-    for (std::size_t i = 0; i < std::size(cases); ++i)
-        EXPECT_EQ(airport.runways[i].id_1 + '/' + airport.runways[i].id_2, std::get<2>(cases[i]));
+    std::string ids;
+    for (const Runway_Info& runway : Read(records).runways)
+        ids += runway.id_1 + '/' + runway.id_2 + ' ';
+    EXPECT_EQ(ids, "/ 36L/18R 18/36 9R/27L 19C/1C 1H/19H 1H/19H 1H/19H 1H/19H -3L/15R ");
 }
 
 TEST(Airport_Reader, Runway_Ends_Misplaced) {
-    magnetic_table.fill(0);
-    const std::pair<std::int32_t, double> cases[] = {
-        {500, 152.4}, {984, 299.9232}, {985, 240.228}, {10000, 2988}};
-    for (const auto& [length_ft, drawn_m] : cases) {
-        const Runway_Info runway =
-            Read(Runway({.lon = Lon_90, .heading = Lon_90, .length = length_ft})).runways.at(0);
-        EXPECT_NEAR(runway.lon_2 - runway.lon_1, drawn_m * 360 / 40007000, 1e-12);
-        EXPECT_NEAR(runway.lon_1 + runway.lon_2, 180, 1e-12);
-        EXPECT_NEAR(runway.lat_1, 0, 1e-12);
-        EXPECT_EQ(runway.length_ft, length_ft);
+    const double meter = 360.0 / 40007000;
+    const std::tuple<Runway_Fields, double, double> cases[] = {
+        {{.lon = Lon_90, .length = 500}, 90 - 76.2 * meter, 90 + 76.2 * meter},
+        {{.lon = Lon_90, .length = 984}, 90 - 149.9616 * meter, 90 + 149.9616 * meter},
+        {{.lon = Lon_90, .length = 985}, 90 - 120.114 * meter, 90 + 120.114 * meter},
+        // At 45 degrees a degree of longitude is shorter, and these cross the meridian of 180.
+        {{.lat = Lat_45, .lon = 0x7FFFFFFF, .length = 3000}, 179.994563499, -179.994563667},
+        {{.lat = Lat_45, .lon = -0x7FFFFFFF, .length = 3000}, 179.994563667, -179.994563499},
+    };
+    for (auto [fields, lon_1, lon_2] : cases) {
+        fields.heading = Lon_90;
+        const Runway_Info runway = Read(Runway(fields)).runways.at(0);
+        EXPECT_NEAR(runway.lon_1, lon_1, 1e-9);
+        EXPECT_NEAR(runway.lon_2, lon_2, 1e-9);
+        EXPECT_NEAR(runway.lat_1, Latitude_Degrees(fields.lat), 1e-12);
     }
-    // At 45 degrees a degree of longitude is shorter.
-    const double span = 854.4 * 360 / 40007000 * 1.41421356;
-    const Airport_Info airport = Read(Join({Runway({Lat_45, 0x7FFFFFFF, 100, -Lon_90, 3000}),
-                                            Runway({Lat_45, -0x7FFFFFFF, 100, Lon_90, 3000})}));
-    EXPECT_NEAR(airport.runways.at(0).lon_1, -180 + span / 2, 1e-6);
-    EXPECT_NEAR(airport.runways.at(0).lon_2, 180 - span / 2, 1e-6);
-    EXPECT_NEAR(airport.runways.at(1).lon_1, 180 - span / 2, 1e-6);
-    EXPECT_EQ(airport.runways.at(0).altitude_ft, 328);
 }
 
 TEST(Airport_Reader, Heading_By_The_Variation_Of_Another_Place) {
@@ -102,20 +95,20 @@ TEST(Airport_Reader, Beam_At_The_Wrong_End_Or_Of_No_Runway) {
          Com(1, 0), ils(Lon_90, "behind another record"), Runway({.heading = -Lon_90}),
          ils(-Lon_90), ils(Lon_90)}));
     ASSERT_EQ(airport.ils.size(), 5U);
-    const Runway_Info& east = airport.runways.at(0);
+    const Runway_Info &east = airport.runways.at(0), &west = airport.runways.at(1);
     // The transmitter stays in place off the runway's line, and against a negative heading.
-    const double lons[] = {east.lon_1, east.lon_2, 90, airport.runways.at(1).lon_1, 90};
-    const std::int16_t courses[] = {90, 270, 91, 270, 90};
-    for (std::size_t i = 0; i < std::size(lons); ++i) {
-        EXPECT_EQ(airport.ils[i].lon, lons[i]) << i;
-        EXPECT_EQ(airport.ils[i].mag_course, courses[i]) << i;
+    const std::pair<double, int> beams[] = {
+        {east.lon_1, 90}, {east.lon_2, 270}, {90, 91}, {west.lon_1, 270}, {90, 90}};
+    for (std::size_t i = 0; i < std::size(beams); ++i) {
+        EXPECT_EQ(airport.ils[i].lon, beams[i].first) << i;
+        EXPECT_EQ(airport.ils[i].mag_course, beams[i].second) << i;
         EXPECT_EQ(airport.ils[i].name + airport.ils[i].freq, "ILS110.3");
     }
 }
 
-std::string Path_Names(const Airport_Info& airport) {
+std::string Names_Of(const std::vector<Taxi_Path>& paths) {
     std::string names;
-    for (const Taxi_Path& path : airport.taxi_paths)
+    for (const Taxi_Path& path : paths)
         names += path.name + '|';
     return names;
 }
@@ -130,17 +123,13 @@ TEST(Taxi_Reader, Lists_Read_Or_Replaced_Wrongly) {
                    Taxi({points, parkings, paths, Longs({0, 12}), Longs({-5, 20}),
                          Names({"X", "A"}), List(12, {Point(1, 5, 5)})}),
                    Taxi({List(12, {Point(3, 0, -1852)}), Longs({1, 16, 0, 0, 0, 0})})}));
-    ASSERT_EQ(airport.taxi_points.size(), 1U) << "the second block's list";
-    EXPECT_EQ(airport.taxi_points[0].kind, 3);
-    EXPECT_EQ(airport.taxi_points[0].lon, airport.lon) << "the same to the bit";
-    ASSERT_EQ(airport.parkings.size(), 1U);
-    EXPECT_EQ(airport.taxi_points[0].lat, 44.983333);
-    EXPECT_EQ(airport.parkings[0].lat, 45.016667);
-    EXPECT_NEAR(airport.parkings[0].lon, airport.lon - 0.023570, 1e-6);
-    EXPECT_EQ(airport.parkings[0].radius_ft, 100);
-    EXPECT_EQ(airport.parkings[0].name, "SE PARKING 12");
-    EXPECT_EQ(Path_Names(airport), "A|Runway 9L|1|Runway |2|-1|");
-    EXPECT_EQ(Path_Names(Read(Taxi({paths, Longs({0, 8})}))), "1|0|1|1|2|-1|") << "no runways";
+    // The second block's list has taken the place of the first; what is 0 stays to the bit.
+    EXPECT_EQ(airport.taxi_points, (std::vector<Taxi_Point>{{3, 44.983333, airport.lon}}));
+    EXPECT_EQ(airport.parkings,
+              (std::vector<Parking_Info>{{"SE PARKING 12", 45.016667, -0.023542, 100}}));
+    EXPECT_EQ(Names_Of(airport.taxi_paths), "A|Runway 9L|1|Runway |2|-1|");
+    EXPECT_EQ(Names_Of(Read(Taxi({paths, Longs({0, 8})})).taxi_paths), "1|0|1|1|2|-1|")
+        << "no runways";
     EXPECT_EQ(airport.taxi_paths[2].start_point * 10 + airport.taxi_paths[2].end_point, 34);
 }
 
@@ -160,45 +149,28 @@ TEST(Taxi_Reader, Block_Ends_Too_Early_Or_Too_Late) {
     for (const auto& [what, block, expected] : cases) {
         const bool sound = !std::string_view(what).starts_with("fault");
         const Airport_Info airport = Read(Join({Runway({}), block, Icao("END")}), sound);
-        EXPECT_EQ(Path_Names(airport) + airport.icao_id, expected) << what;
+        EXPECT_EQ(Names_Of(airport.taxi_paths) + airport.icao_id, expected) << what;
     }
 }
 
 TEST(Taxi_Reader, Parking_Label_Wrong) {
-    const std::pair<std::int32_t, const char*> cases[] = {{5 * 128 + 38, " 5"},
-                                                          {12 * 128 + 5, "SE PARKING 12"},
-                                                          {13 * 128, "SE PARKING 13"},
-                                                          {37, "GATE Z 0"},
-                                                          {64, "GATE Z 0"},
-                                                          {128 + 64, "GATE Z 2"},
-                                                          {0xFFFFF, "GATE Z 8192"},
-                                                          {7 * 128 + 10, "GATE 7"},
-                                                          {-1 << 20 | 129, "PARKING 1"}};
     std::string_view label;
-    for (const auto& [packed, name] : cases)
-        EXPECT_EQ(Parking_Name(packed, label), name) << packed;
+    std::string names;
+    for (const std::int32_t packed : {5 * 128 + 38, 12 * 128 + 5, 13 * 128, 37, 64, 128 + 64,
+                                      0xFFFFF, 7 * 128 + 10, -1 << 20 | 129})
+        names += Parking_Name(packed, label) + '|';
+    EXPECT_EQ(names,
+              " 5|SE PARKING 12|SE PARKING 13|GATE Z 0|GATE Z 0|GATE Z 2|GATE Z 8192|GATE 7|"
+              "PARKING 1|");
 }
 
 TEST(Taxi_Reader, Chain_Of_Name_Numbers_Cut_Or_Looped) {
-    const std::vector<std::string> names{"2", "0", "4", "3", "B", "", "07", "1"};
-    const std::pair<const char*, const char*> cases[] = {
-        {"0", "B"},
-        {"1", "0"},
-        {"3", "3"},
-        {"5", ""},
-        {"6", "07"},
-        {"7", "1"},
-        {"8", "8"},
-        {"-1", "-1"},
-        {"07", "07"},
-        {" 2", " 2"},
-        {"18446744073709551617", "18446744073709551617"}};
-    for (const auto& [number, name] : cases) {
-        std::vector<Taxi_Path> paths{{Path_Taxiway, 0, 0, number}, {Path_Runway, 0, 0, number}};
-        Name_Taxiways(names, paths);
-        EXPECT_EQ(paths[0].name, name);
-        EXPECT_EQ(paths[1].name, number);
-    }
+    std::vector<Taxi_Path> paths{{Path_Runway, 0, 0, "0"}};
+    for (const char* number :
+         {"0", "1", "3", "5", "6", "7", "8", "-1", "07", " 2", "18446744073709551617"})
+        paths.push_back({Path_Taxiway, 0, 0, number});
+    Name_Taxiways({"2", "0", "4", "3", "B", "", "07", "1"}, paths);
+    EXPECT_EQ(Names_Of(paths), "0|B|0|3||07|1|8|-1|07| 2|18446744073709551617|");
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace skerrand {
 namespace {
 
-using bgl::Bytes, bgl::Join, bgl::Longs, bgl::Record;
+using namespace bgl;
 
 constexpr std::int32_t Lat_30 = 3333917, Lat_45 = 5000875, Lon_30 = 357913941, Lon_45 = 1 << 29;
 
@@ -47,12 +47,12 @@ std::string Describe(const std::vector<Airspace_Info>& table) {
 }
 
 TEST(Airspace_Reader, RecordReachesAnotherAirspaceOrField) {
-    const auto name = [](std::string_view text) { return Record(0x10006, bgl::Text(text)); };
+    const auto name = [](std::string_view text) { return Record(0x10006, Text(text)); };
     const auto at = [](std::int32_t type, std::int32_t low = 7, std::int32_t high = 7) {
         return Record(type, Longs({9, Lat_45, 9, 1000000, low, high}));
     };
     const auto frequency = [](std::int32_t code, std::string_view text) {
-        return Record(0x20001, Join({Longs({code, 9}), bgl::Text(text)}));
+        return Record(0x20001, Join({Longs({code, 9}), Text(text)}));
     };
     const Bytes miss = Box(0, 0, 1, 1);
     const Bytes group = Join({
@@ -95,11 +95,9 @@ TEST(Airspace_Reader, EdgeOrCrossedMeridianEncloses) {
 }
 
 TEST(Airspace_Reader, CenterIsTurnedToTheTrueCourse) {
-    magnetic_table.fill(1821);  // 10 degrees east
+    magnetic_table.fill(1821);  // 10 degrees east: along 119 it would be 36.57439, 43.81968
     Search(Object({Box(2222611, 238609294, 5556528, 715827883)}));
     magnetic_table.fill(0);
-    // From 20 to 50 and from 20 to 60 degrees: 1306 miles from (50, 20) along 119 - 10 degrees;
-    // along 119 it would be 36.57439, 43.81968.
     EXPECT_EQ(departure_airspaces.at(0).center_lat, 39.33276);
     EXPECT_EQ(destination_airspaces.at(0).center_lon, 46.95618);
 }
@@ -108,19 +106,17 @@ TEST(Airspace_Reader, TruncationLosesWhatStandsAhead) {
     const Bytes start = Record(0x12002, Longs({0, 0, 0, 0, 0, 0}));
     const Bytes all = Object({Round_Both, start, start});
     for (std::size_t size = 0; size < all.size(); ++size) {
-        EXPECT_FALSE(Search(bgl::Prefix(all, size)));
+        EXPECT_FALSE(Search(Prefix(all, size)));
         ASSERT_EQ(departure_airspaces.size(), size >= 40 ? 1 : 0) << size;
-        if (size < 40) continue;
-        EXPECT_EQ(departure_airspaces[0].boundary.size(), (size - 40) / 32);
+        EXPECT_TRUE(size < 40 || departure_airspaces[0].boundary.size() == (size - 40) / 32);
     }
 }
 
 TEST(Airspace_Reader, OverlappingObjectsTakeQuadraticTime) {
     const std::vector<Bytes> group(4000, Longs({1, 24, 5, 0, 0x12003, 24, 0, 0}));
-    const Bytes image = Join({Join(group), Longs({2, 0, 0, 0, 2})});
-    EXPECT_TRUE(Search(image));
+    EXPECT_TRUE(Search(Join({Join(group), Longs({2, 0, 0, 0, 2})})));
     Start_Allowance();
-    EXPECT_FALSE(Search(image));
+    EXPECT_FALSE(Walk_Airspace_Group(0));
     End_Allowance();
 }
 

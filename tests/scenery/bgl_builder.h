@@ -105,10 +105,8 @@ inline Bytes Path(std::int32_t kind, std::int32_t start, std::int32_t end, std::
 
 inline Bytes Names(const std::vector<std::string>& names) {
     std::vector<Bytes> elements;
-    for (const std::string& name : names) {
-        elements.push_back(Text(name));
-        elements.back().resize(8);
-    }
+    for (const std::string& name : names)
+        elements.push_back(Join({Text(name), Bytes(8 - name.size())}));
     return List(8, elements);
 }
 
@@ -163,13 +161,11 @@ inline Bytes Sample() {
 
 /// Puts a file in hand for a scan, with the tables empty.
 inline void Load(const Bytes& file) {
-    bgl_bytes = file;
-    bgl_bytes.push_back(0);
+    bgl_bytes = Join({file, {0}});
     current_file = "c:\\sim\\scenery\\a.bgl";
     Release_Airport_Table();
-    airport_count = 0;
     Release_Airspace_Files();
-    airspace_file_count = 0;
+    airport_count = airspace_file_count = 0;
     first_run = true;
     database_ready = false;
 }

@@ -2,48 +2,42 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <regex>
 
 #include "app/settings.h"
 #include "platform/code_page.h"
 #include "tests/platform/scratch_folder.h"
 
-namespace skerrand {
-namespace {
+using namespace skerrand;
 
 TEST(Catalogue, AreaWithAnothersText) {
-    const std::tuple<const char*, const char*, std::vector<std::string>> cases[] = {
-        {"other line ends not known",
-         "[Area.1]\rTitle=A\n\n\r\n[Area.2]\nTitle=B\r[Area.3]\r\nTitle=C",
-         {"A", "B", "C"}},
-        {"letters' case minded", "[AREA.001]\nTITLE=Al\n[aREA.2]\ntitle=Be", {"Al", "Be"}},
-        {"blanks kept, or tabs taken for blanks", "[Area.1]\nTitle= \tA b \t \n", {"\tA b \t"}},
-        {"key ahead of a blank found", "[Area.1]\nTitle =A\n[Area.2]\nTitle=\n", {"", ""}},
-        {"key in a longer name not found", "[Area.1]\nSubtitle=A\nTitle=B", {"A"}},
-        {"indented head not seen", "  [Area.1]\nTitle=A\n [Area.2]  \nTitle=B", {"A", "B"}},
-        {"indented head taken for another", "[Area.1]\nTitle=A\n  [Area.1]\nTitle=B", {"A", "B"}},
-        {"head with text behind it seen", "[Area.1]\n[Area.2] x\nTitle=B\n[Area.3]]\n", {"B"}},
-        {"text of a section that is no area taken",
-         "[General]\nTitle=G\n[Area.1]\n[Other]\nTitle=O\n[Area.2]\nTitle=B\n[End]\nTitle=E",
-         {"", "B"}},
-        {"repeated head gets its own text",
-         "[Area.1]\nTitle=A\n[Area.2]\nTitle=B\n[Area.1]\nTitle=C\n[Area.3]\nTitle=D",
-         {"A", "B", "A", "D"}},
-        {"head repeated at once runs on", "[Area.1]\nTitle=A\n[Area.1]\nTitle=B", {"", "A"}},
-        // From [Area.2] to [x] it is 16 characters backwards, so that its text has 18.
-        {"next head ahead of this one measured wrongly",
-         "[Area.1]\nTitle=A\n\n[x]\nTitle=Xyz\n\n[Area.2]\nTitle=Bcdef\n[x]\n",
-         {"A", "Bc"}},
-        {"head inside another line not seen as the first",
-         "Title=0 [Area.2]\n[Area.1]\nTitle=A\n[Area.2]\nTitle=B",
-         {"", "A"}},
-        {"head inside another head not seen as the first",
-         "[[Area.1[]\nTitle=A\n[Area.1[]\nTitle=B",
-         {"", "A"}},
+    // "#1" stands for "[Area.1]". From [Area.2] to the [x] ahead of it it is 16 characters
+    // backwards, so that its text has 18.
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"other line ends not known", "#1\rTitle=A\n\n\r\n#2\nTitle=B\r#3\r\nTitle=C", "A|B|C|"},
+        {"letters' case minded", "[AREA.001]\nTITLE=Al\n[aREA.2]\ntitle=Be", "Al|Be|"},
+        {"blanks kept, or tabs taken for blanks", "#1\nTitle= \tA b \t \n", "\tA b \t|"},
+        {"key ahead of a blank found", "#1\nTitle =A\n#2\nTitle=\n", "||"},
+        {"key in a longer name not found", "#1\nSubtitle=A\nTitle=B", "A|"},
+        {"indented head not seen", "  #1\nTitle=A\n #2  \nTitle=B", "A|B|"},
+        {"indented head taken for another", "#1\nTitle=A\n  #1\nTitle=B", "A|B|"},
+        {"head with text behind it seen", "#1\n#2 x\nTitle=B\n#3]\n", "B|"},
+        {"text of no area taken", "[No]\nTitle=N\n#1\n[O]\nTitle=O\n#2\nTitle=B\n[E]\nTitle=E",
+         "|B|"},
+        {"repeated head gets its own", "#1\nTitle=A\n#2\nTitle=B\n#1\nTitle=C\n#3\nTitle=D",
+         "A|B|A|D|"},
+        {"head repeated at once runs on", "#1\nTitle=A\n#1\nTitle=B", "|A|"},
+        {"next head ahead measured wrongly",
+         "#1\nTitle=A\n\n[x]\nTitle=Xyz\n\n#2\nTitle=Bcdef\n[x]\n", "A|Bc|"},
+        {"head inside a line not seen as the first", "Title=0 #2\n#1\nTitle=A\n#2\nTitle=B", "|A|"},
+        {"head inside a head not seen as the first", "[[Area.1[]\nTitle=A\n[Area.1[]\nTitle=B",
+         "|A|"},
     };
     for (const auto& [fault, text, titles] : cases) {
-        std::vector<std::string> found;
-        for (const Scenery_Area& area : Parse_Scenery_Cfg(text))
-            found.push_back(area.title);
+        std::string found;
+        for (const Scenery_Area& area :
+             Parse_Scenery_Cfg(std::regex_replace(text, std::regex("#(.)"), "[Area.$1]")))
+            found += area.title + '|';
         EXPECT_EQ(found, titles) << fault;
     }
 }
@@ -69,8 +63,7 @@ TEST(Catalogue, FolderNotFoundOrLeftAsGiven) {
     // What is given as a whole path has the program's separators all through.
     std::string whole = root + "\\add\\on\\scenery";
     std::ranges::replace(whole, '/', '\\');
-    using Drives = std::vector<std::string>;
-    const std::tuple<std::string, Drives, std::string> cases[] = {
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[] = {
         {"scenery", {}, root + "\\scenery"},
         {" Add\\On ", {}, root + "\\add\\on\\scenery"},
         {"Add/On/SCENERY", {"c: ", "d:"}, root + "\\add\\on\\scenery"},
@@ -81,14 +74,10 @@ TEST(Catalogue, FolderNotFoundOrLeftAsGiven) {
         {"ab\\AB", {"X: aB"}, root + "\\x:\\x:\\scenery"},
         {"", {}, ""}};
     for (const auto& [value, drives, folder] : cases) {
-        scenery_areas.assign(1, {});
-        scenery_areas[0].local = value;
+        scenery_areas = {{"", "", "", "", "", "", value}};
         Resolve_Local_Paths(drives);
         EXPECT_EQ(scenery_areas[0].local, folder) << value;
     }
     EXPECT_FALSE(Read_Scenery_Cfg("no_such_scenery.cfg"));
     EXPECT_TRUE(scenery_areas.empty()) << "left from another file";
 }
-
-}  // namespace
-}  // namespace skerrand

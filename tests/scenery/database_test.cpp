@@ -1,6 +1,7 @@
 #include "scenery/database.h"
 
 #include <cmath>
+#include <cstring>
 #include <gtest/gtest.h>
 
 #include "tests/scenery/bgl_builder.h"
@@ -10,26 +11,24 @@ namespace {
 
 using bgl::Bytes, bgl::Join, bgl::Longs, bgl::Prefix;
 
-Bytes Word(std::int64_t value) {
-    return Prefix(Longs({value}), 2);
+template <typename Number>
+Bytes Stored(Number number) {
+    const auto bytes = std::bit_cast<std::array<std::uint8_t, sizeof number>>(number);
+    return {bytes.begin(), bytes.end()};
 }
-Bytes Doubles(std::initializer_list<double> values) {
-    Bytes bytes;
-    for (const double value : values) {
-        const auto bits = std::bit_cast<std::int64_t>(value);
-        bytes = Join({bytes, Longs({bits, bits >> 32})});
-    }
-    return bytes;
+Bytes Stored(const char* text) {
+    return Join({Stored(static_cast<std::int16_t>(std::strlen(text))), bgl::Text(text)});
 }
-Bytes Text(std::string_view text) {
-    return Join({Word(std::ssize(text)), bgl::Text(text)});
+template <typename... Values>
+Bytes Stored_All(Values... values) {
+    return Join({Stored(values)...});
 }
 constexpr std::size_t Last_Record = 64;
 
-/// An airport with one of everything, every field different.
+/// An airport with one of everything, neighbours of one type different.
 Airport_Info Full_Airport() {
-    const std::vector<Runway_Info> runways{{"9L", "27R", 3, 4, 5, 6, 7, 8, 9, 10, 11}};
-    const std::vector<Ils_Info> ils{{"ILS", 12, 13, 14, "109.5"}};
+    const std::vector<Runway_Info> runways{{"9L", "27R", 3, 4, 5, 6, 7, 1, 9, 10, 11}};
+    const std::vector<Ils_Info> ils{{"ILS", 12, 13, 9, "109.5"}};
     const std::vector<Parking_Info> parkings{{"GATE 1", 18, 19, 20}};
     const std::vector<Taxi_Point> points{{15, 16, 17}};
     const std::vector<Taxi_Path> paths{{21, 22, 23, "B"}};
@@ -47,21 +46,16 @@ std::vector<Airport_Info> Sample() {
 }
 
 TEST(Database, FieldOutOfItsPlace) {
-    const Bytes runways =
-        Join({Word(1), Longs({2, 0}), Text("9L"), Text("27R"), Doubles({3, 4, 5, 6}), Longs({7}),
-              Word(8), Word(9), Longs({10, 11}), Bytes(2 + 2 + 48), Longs({1})});
-    const Bytes ils = Join({Word(1), Longs({2, 0}), Text("ILS"), Doubles({12, 13}), Word(14),
-                            Text("109.5"), Bytes(2 + 18 + 2), Longs({1})});
-    const Bytes points = Join({Word(1), Longs({1, 0}), Longs({15}), Doubles({16, 17}), Longs({1})});
-    const Bytes parkings =
-        Join({Word(1), Longs({1, 0}), Text("GATE 1"), Doubles({18, 19}), Longs({20, 1})});
-    const Bytes paths = Join({Word(1), Longs({1, 0}), Longs({21, 22, 23}), Text("B"), Longs({1})});
-    const Bytes expected = Join({Text("Name"), Text("ICAO"), Doubles({1.5, -2.5}), Text("c"),
-                                 Text("g"), Text("t"), Text("d"), Text("a"), Text("n"), Text("i"),
-                                 runways, ils, points, parkings, paths, Bytes(Last_Record)});
-    EXPECT_EQ(Airport_Table_Bytes(std::vector{Full_Airport()}), expected);
+    const std::int16_t none = 0, one = 1, nine = 9;
+    const Bytes expected = Stored_All(
+        "Name", "ICAO", 1.5, -2.5, "c", "g", "t", "d", "a", "n", "i", one, 2, 0, "9L", "27R", 3.0,
+        4.0, 5.0, 6.0, 7, one, nine, 10, 11, "", "", 0.0, 0.0, 0.0, 0.0, 0, none, none, 0, 0, 1,
+        one, 2, 0, "ILS", 12.0, 13.0, nine, "109.5", "", 0.0, 0.0, none, "", 1, one, 1, 0, 15, 16.0,
+        17.0, 1, one, 1, 0, "GATE 1", 18.0, 19.0, 20, 1, one, 1, 0, 21, 22, 23, "B", 1);
+    EXPECT_EQ(Airport_Table_Bytes(std::vector{Full_Airport()}),
+              Join({expected, Bytes(Last_Record)}));
     EXPECT_EQ(Airport_Table_Bytes({}), Bytes(Last_Record));
-    EXPECT_EQ(Airspace_List_Bytes(std::vector<std::string>{"a"}), Join({Text("a"), Text("")}));
+    EXPECT_EQ(Airspace_List_Bytes(std::vector<std::string>{"a"}), Stored_All("a", ""));
     EXPECT_EQ(Airspace_List_Bytes({}), Bytes(2));
 }
 
@@ -74,29 +68,29 @@ TEST(Database, CutFileTakenForWhole) {
         EXPECT_EQ(airports, expected ? Sample() : std::vector<Airport_Info>()) << length;
     }
     std::vector<std::string> files;
-    const Bytes list = Join({Text("a"), Text("")});
-    EXPECT_FALSE(Parse_Airspace_List(Prefix(list, 2), 1, files));
-    EXPECT_TRUE(Parse_Airspace_List(Prefix(list, 3), 1, files));
-    EXPECT_FALSE(Parse_Airspace_List(Prefix(list, 4), 1, files));
-    EXPECT_TRUE(Parse_Airspace_List(list, 1, files));
-    EXPECT_EQ(files, std::vector<std::string>{"a"});
+    const Bytes list = Stored_All("a", "");
+    for (std::size_t length = 0; length <= list.size(); ++length) {
+        const bool expected = length == 3 || length == 5;
+        EXPECT_EQ(Parse_Airspace_List(Prefix(list, length), 1, files), expected) << length;
+        EXPECT_EQ(files.size(), expected ? 1 : 0) << length;
+    }
 }
 
 TEST(Database, DamageTakenForData) {
     const Bytes good = Airport_Table_Bytes(std::vector{Full_Airport()});
     const std::size_t runways = 2 + 4 + 2 + 4 + 16 + 7 * 3;
     const std::tuple<const char*, std::size_t, Bytes> cases[] = {
-        {"latitude", 12, Doubles({std::nan("")})},
-        {"runway's end", runways + 10 + 9 + 24, Doubles({HUGE_VAL})},
-        {"dimensions", runways, Word(2)},
-        {"array without dimensions, but with elements", runways, Word(0)},
+        {"latitude", 12, Stored(std::nan(""))},
+        {"runway's end", runways + 10 + 9 + 24, Stored(HUGE_VAL)},
+        {"dimensions", runways, {2, 0}},
+        {"array without dimensions, but with elements", runways, {0, 0}},
         {"elements but none in use", runways + 2, Longs({1})},
         {"element too many", runways + 2, Longs({3})},
         {"negative size", runways + 2, Longs({-2})},
         {"huge size", runways + 2, Longs({0x7FFFFFFF})},
         {"lower bound", runways + 6, Longs({1})},
         {"count of runways", runways + 10 + 57 + 52, Longs({2})},
-        {"record behind the last", good.size() - Last_Record, Word(63)},
+        {"record behind the last", good.size() - Last_Record, {63, 0}},
     };
     std::vector<Airport_Info> airports;
     for (const auto& [what, at, bytes] : cases) {

@@ -33,8 +33,8 @@ std::string progress;
 Unread_Files Search(const std::vector<std::string>& files) {
     first_run = false;
     database_ready = true;
-    departure_airport.lat = departure_airport.lon = 45;
-    destination_airport.lat = destination_airport.lon = 45;
+    for (Airport_Info* airport : {&departure_airport, &destination_airport})
+        airport->lat = airport->lon = 45;
     current_airspaces.resize(3);
     airspace_files = files;
     progress.clear();
@@ -68,7 +68,6 @@ TEST(Airspace_Search, LabelOrDiscWrong) {
     ASSERT_EQ(disc.boundary.size(), 2);
     EXPECT_EQ(disc.boundary[0].lat, 45);
     EXPECT_EQ(disc.boundary[1].radius, 20);
-
     destination_airport.approach_freq = "119.1";
     departure_airport.approach_freq.clear();
     Search({});
@@ -78,23 +77,20 @@ TEST(Airspace_Search, LabelOrDiscWrong) {
 }
 
 TEST(Airspace_Search, FileUnreadOrReadForAnother) {
-    const Bytes sound = Image({}, Record(1, Join({Longs({4, 0}), Airspace(0, 0, nullptr)})));
-    Bytes foreign = sound;
-    foreign[0x76] = 0;
-    const std::string last = Saved("last.bgl", sound);
-    const std::string other = Saved("foreign.bgl", foreign);
-    EXPECT_EQ(Search({other, Saved("short.bgl", Bytes(0x79)), last}).count, 0);
-    EXPECT_EQ(departure_airspaces.size(), 1);
-    const Unread_Files unread = Search({"no such 1", last, "no such 2", last});
+    Bytes bytes = Image({}, Record(1, Join({Longs({4, 0}), Airspace(0, 0, nullptr)})));
+    const std::string sound = Saved("sound.bgl", bytes);
+    bytes[0x76] = 0;
+    const std::string foreign = Saved("foreign.bgl", bytes),
+                      twin = testing::TempDir() + "/FOREIGN.bgl";
+    std::filesystem::copy(sound, twin);
+    EXPECT_EQ(Search({foreign, Saved("short.bgl", Bytes(0x79)), sound}).count, 0);
+    EXPECT_EQ(departure_airspaces.size(), 2) << "a list in lower case stands for both";
+    std::filesystem::remove(twin);
+    const Unread_Files unread = Search({"no such 1", sound, "no such 2", foreign, sound});
     EXPECT_EQ(departure_airspaces.size(), 2);
     EXPECT_EQ(unread.count, 2);
     EXPECT_EQ(unread.first, "no such 1");
-    EXPECT_EQ(progress, "0/4 1/4 2/4 3/4 4/4 ");
-    const std::string twin = testing::TempDir() + "/FOREIGN.bgl";
-    std::filesystem::copy(last, twin);
-    EXPECT_EQ(Search({other}).count, 0);
-    EXPECT_EQ(departure_airspaces.size(), 1) << "a list in lower case stands for both";
-    std::filesystem::remove(twin);
+    EXPECT_EQ(progress, "0/5 1/5 2/5 3/5 4/5 5/5 ");
 }
 
 }  // namespace

@@ -4,8 +4,7 @@
 
 #include "scenery/database.h"
 
-namespace skerrand {
-namespace {
+using namespace skerrand;
 
 TEST(Picks, EqualEntriesTakeTheFirstOrTheTableStays) {
     const std::pair<const char*, const char*> airports[] = {
@@ -13,6 +12,7 @@ TEST(Picks, EqualEntriesTakeTheFirstOrTheTableStays) {
     const std::pair<const char*, double> cases[] = {
         {"Field (AAAA)", 2}, {"Field (aaaa)", 3}, {"Field (AAAA) ()", 1}, {" ()", 4}, {"None", 9}};
     for (const auto& [entry, place] : cases) {
+        airport_table.clear();  // of other tests
         for (const auto& [name, id] : airports) {
             Airport_Info& airport = airport_table.emplace_back();
             airport.airport_name = name;
@@ -26,6 +26,3 @@ TEST(Picks, EqualEntriesTakeTheFirstOrTheTableStays) {
         EXPECT_EQ(airport_table.capacity(), 0) << "the memory of a world";
     }
 }
-
-}  // namespace
-}  // namespace skerrand

