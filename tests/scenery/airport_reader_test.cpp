@@ -1,6 +1,7 @@
 #include "scenery/airport_reader.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 #include "scenery/magnetic.h"
 #include "scenery/taxi_reader.h"
@@ -164,13 +165,32 @@ TEST(Taxi_Reader, Parking_Label_Wrong) {
               "PARKING 1|");
 }
 
+/// A name at a time, as they stand in the file.
+void Name_One_By_One(const std::vector<std::string>& names, std::vector<Taxi_Path>& paths) {
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        for (Taxi_Path& path : paths) {
+            if (path.kind == Path_Taxiway && path.name == std::to_string(i)) path.name = names[i];
+        }
+    }
+}
+
 TEST(Taxi_Reader, Chain_Of_Name_Numbers_Cut_Or_Looped) {
-    std::vector<Taxi_Path> paths{{Path_Runway, 0, 0, "0"}};
-    for (const char* number :
-         {"0", "1", "3", "5", "6", "7", "8", "-1", "07", " 2", "18446744073709551617"})
-        paths.push_back({Path_Taxiway, 0, 0, number});
-    Name_Taxiways({"2", "0", "4", "3", "B", "", "07", "1"}, paths);
-    EXPECT_EQ(Names_Of(paths), "0|B|0|3||07|1|8|-1|07| 2|18446744073709551617|");
+    const std::vector<std::string> texts = {"0", "1", "2",  "3",  "4",  "5",  "6", "7",
+                                            "8", "B", "07", "-1", " 2", "10", "",  "99999999999"};
+    std::mt19937 random(7);
+    const auto any = [&](std::size_t count) { return random() % count; };
+    for (int round = 0; round < 2000; ++round) {
+        std::vector<std::string> names(any(12));
+        for (std::string& name : names)
+            name = texts[any(texts.size())];
+        std::vector<Taxi_Path> paths(30);
+        for (Taxi_Path& path : paths)
+            path = {any(9) == 0 ? Path_Runway : Path_Taxiway, 0, 0, texts[any(texts.size())]};
+        std::vector<Taxi_Path> expected = paths;
+        Name_One_By_One(names, expected);
+        Name_Taxiways(names, paths);
+        ASSERT_EQ(Names_Of(paths), Names_Of(expected)) << "round " << round;
+    }
 }
 
 }  // namespace
