@@ -81,6 +81,7 @@ if [ -n "$service" ]; then await_jobs; else answer printed; fi
 wait_for "no page" test -s "$printed"
 pdftoppm -r 100 -png -singlefile "$printed" pictures/page
 pdftotext "$printed" - | grep -q 'Seattle Tacoma Intl *(KSEA)' || fail "no title on the page"
+pdfinfo "$printed" | grep -q '^Title: *KSEA Chart$' || fail "the page bears another name"
 [ "$(convert pictures/page.png -depth 8 txt:- | grep -c '#804040')" -gt 1000 ] ||
     fail "no parkings on the page"
 wait_for "the chart is not minimised" eval '! shown "KSEA Chart"'
