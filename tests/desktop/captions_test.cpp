@@ -60,7 +60,7 @@ TEST(Captions, No_Caption_Is_Cut_In_Its_Box) {
 
 TEST(Captions, A_Path_In_A_Message_Has_One_Kind_Of_Separator) {
     platform::Message_Box("/home/\xE9va\\skerrand.cfg", platform::Icon::Critical, "Title");
-    EXPECT_EQ(driver::Take_Messages().at(0).text, "/home/\xE9va/skerrand.cfg");
+    EXPECT_EQ(driver::Take_Messages().back().text, "/home/\xE9va/skerrand.cfg");
 }
 
 }  // namespace

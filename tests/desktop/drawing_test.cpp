@@ -67,12 +67,10 @@ constexpr struct {
     {"outline of a rectangle", [](auto* d) { Rectangle(d, 90, 20, 20, 90); }, 20, 50, Black},
     {"inside", [](auto* d) { Rectangle(d, 90, 90, 20, 20); }, 50, 50, Blue},
     {"inside of an ellipse", Near_Ellipse, 55, 55, Blue},
-    {"corner beside it", Near_Ellipse, 24, 24, White},
     {"hollow", [](auto* d) { Set_Fill_Style(d, Fill_Style::Hollow), Near_Ellipse(d); }, 55, 55,
      White},
     {"inside of an arc", [](auto* d) { Arc(d, 20, 20, 90, 90, 200, 55, 100, 55); }, 55, 50, White},
-    {"top of a flat arc", Flat_Arc, 120, 50, Black},
-    {"its end", Flat_Arc, 114, 50, Black},
+    {"end of a flat arc", Flat_Arc, 114, 50, Black},
     {"behind its end", Flat_Arc, 90, 50, White},
     {"before its start", Flat_Arc, 150, 50, White},
     {"last point of a wide line", Wide_Line, 51, 59, Black},
@@ -86,7 +84,6 @@ constexpr struct {
     {"left edge of a far ellipse", Far_Ellipse, 50, 60, Black},
     {"inside", Far_Ellipse, 60, 60, Blue},
     {"outside", Far_Ellipse, 40, 60, White},
-    {"round it", [](auto* d) { Ellipse(d, INT_MIN, INT_MIN, INT_MAX, INT_MAX); }, 9, 60, Blue},
     {"edge of a far rectangle", Far_Rectangle, 50, 60, Black},
     {"inside", Far_Rectangle, 239, 0, Blue},
     {"top of a far arc", [](auto* d) { Far_Arc(d, INT_MAX, INT_MIN); }, 120, 30, Black},
@@ -120,16 +117,13 @@ TEST(Drawing, An_Arc_Must_Not_Sweep_The_Wrong_Way) {
         {{123, 0}, {117, 0}, "N"},      {{117, 0}, {123, 0}, "EWS"},
         {{150, 30}, {150, 30}, "ENWS"}, {{150, 30}, {240, -60}, "ENWS"},
     };
-    const std::pair<char, QRect> places[] = {{'E', {160, 60, 1, 1}},
-                                             {'N', {120, 20, 1, 1}},
-                                             {'W', {80, 60, 1, 1}},
-                                             {'S', {120, 100, 1, 1}}};
+    const QPoint places[] = {{160, 60}, {120, 20}, {80, 60}, {120, 100}};
     for (const auto& c : cases) {
         Page page;
         Arc(&page.device, 161, 20, 80, 101, c.from.x(), c.from.y(), c.to.x(), c.to.y());
         std::string seen;
-        for (const auto& [name, at] : places)
-            if (page.Count(at, Black) == 1) seen += name;
+        for (int i = 0; i < 4; ++i)
+            if (page.Count({places[i], QSize(1, 1)}, Black) == 1) seen += "ENWS"[i];
         EXPECT_EQ(seen, c.seen) << c.from.x() << ' ' << c.from.y();
     }
 }

@@ -54,8 +54,6 @@ TEST(Keys, A_Press_Counts_Once_And_The_Code_Of_A_Pair_Stays_While_One_Is_Held) {
     Release_Key(50);
     EXPECT_EQ(GetAsyncKeyState(160), Key_Was_Pressed);
     EXPECT_EQ(GetAsyncKeyState(16), Key_Down | Key_Was_Pressed);
-    Press_Key(62, {161, 16});
-    EXPECT_EQ(GetAsyncKeyState(16), Key_Down);
     Release_Key(62);
     EXPECT_EQ(GetAsyncKeyState(16), 0);
 }
