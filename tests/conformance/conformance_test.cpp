@@ -298,7 +298,6 @@ TEST_F(Conformance, Only_A_Picked_Entry_Is_A_Selection) {
     const std::string sorted[] = {"A", "B", "a", "b", "\xE9t\xE9"};
     Add_Entries(Combo1, std::array{sorted[3], sorted[4], sorted[0], sorted[2], sorted[1]});
     EXPECT_EQ(selected(), std::pair(-1, "[]"s));
-    ASSERT_EQ(Entry_Count(Combo1), 5);
     for (int i = -1; i <= 5; ++i)
         EXPECT_EQ(Entry_Text(Combo1, i), i < 0 || i == 5 ? "" : sorted[i]);
     driver::Pick(Combo1, 4);
