@@ -122,13 +122,13 @@ std::pair<double, double> Pixels(const Window& window) {
 }
 
 TEST_F(Conformance, A_Window_Loads_Once_And_Tells_Every_Change_Of_Its_Size_And_State) {
-    const auto [width, height] = Pixels(Main_Window);
-    EXPECT_GE(width, Twips_To_Pixels_X(6000));
-    EXPECT_GE(height, Twips_To_Pixels_Y(4800));
+    const auto before = Pixels(Main_Window);
+    EXPECT_GE(before.first, Twips_To_Pixels_X(6000));
+    EXPECT_GE(before.second, Twips_To_Pixels_Y(4800));
     const auto expect_told = [&](int resizes, Window_State state, int wider = 0, int higher = 0) {
         EXPECT_EQ(counts.resizes, resizes);
         EXPECT_EQ(counts.state_at_resize, state);
-        EXPECT_EQ(Pixels(Main_Window), std::pair(width + wider, height + higher));
+        EXPECT_EQ(Pixels(Main_Window), std::pair(before.first + wider, before.second + higher));
     };
     Show(Main_Window);
     EXPECT_EQ(counts.loads, 1);
