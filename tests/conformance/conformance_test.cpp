@@ -77,6 +77,14 @@ TEST_F(Conformance, A_Stopped_Timer_One_Of_Interval_0_And_One_Of_A_Gone_Window_N
     EXPECT_EQ(counts.fast_ticks + counts.slow_ticks, 0);
 }
 
+TEST_F(Conformance, A_Timer_That_Asks_Again_And_Again_Leaves_The_Processor_To_Others) {
+    if (!driver::Has_Screen()) GTEST_SKIP();
+    const long long since = driver::Clock();
+    Tick_Every(1, Fast);
+    driver::Advance(200);
+    EXPECT_LE(counts.fast_ticks, (driver::Clock() - since) / 20 + 1);
+}
+
 TEST_F(Conformance, A_Tick_That_Unloads_Its_Own_Window_Runs_To_Its_End) {
     Show(Second_Window);
     on_fast_tick = [] {
@@ -263,6 +271,7 @@ TEST_F(Conformance, Lines_Go_On_From_Each_Other_And_Stay_Until_Erased_And_The_St
     driver::Do(driver::Close, Second_Window);
     driver::Advance(50);
     EXPECT_EQ(driver::Pixel(Main_Window, 50, 50), Main_Window.fore_colour);
+    EXPECT_EQ(driver::Pixel(Main_Window, 480, 390), Colour_White);
     Erase(Main_Window);
     EXPECT_EQ(driver::Pixel(Main_Window, 50, 50), Colour_White);
     LineTo(device, 90, 150);
