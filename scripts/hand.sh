@@ -39,7 +39,7 @@ wait_for() {
 
 # begin PROGRAM [ARGUMENTS]: starts it and sets `program` to its process.
 begin() {
-    "$bin/$1" "${@:2}" &
+    env --default-signal=INT "$bin/$1" "${@:2}" & # which a script lets its children ignore
     program=$!
     begun+=($program)
 }

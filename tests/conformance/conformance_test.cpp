@@ -80,6 +80,14 @@ TEST_F(Conformance, A_Stopped_Timer_One_Of_Interval_0_And_One_Of_A_Gone_Window_N
     EXPECT_EQ(counts.fast_ticks + counts.slow_ticks, 0);
 }
 
+TEST_F(Conformance, A_Timer_That_Asks_Again_And_Again_Leaves_The_Processor_To_Others) {
+    if (!driver::Has_Screen()) GTEST_SKIP();
+    const long long since = driver::Clock();
+    Tick_Every(1, Fast);
+    driver::Advance(200);
+    EXPECT_LE(counts.fast_ticks, (driver::Clock() - since) / 20 + 1);
+}
+
 TEST_F(Conformance, Ticks_Are_Dropped_While_A_Message_Stands_With_Its_Icon_Above_All_Windows) {
     SetWindowPos(Main_Window, Insert_After::HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     Tick_Every(20, Slow);
@@ -235,6 +243,7 @@ TEST_F(Conformance, Lines_Go_On_From_Each_Other_And_Stay_Until_Erased_And_The_St
     driver::Do(driver::Close, Second_Window);
     driver::Advance(50);
     EXPECT_EQ(driver::Pixel(Main_Window, 50, 50), Main_Window.fore_colour);
+    EXPECT_EQ(driver::Pixel(Main_Window, 480, 390), Colour_White);
     Erase(Main_Window);
     EXPECT_EQ(driver::Pixel(Main_Window, 50, 50), Colour_White);
     LineTo(device, 90, 150);

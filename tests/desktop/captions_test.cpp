@@ -1,12 +1,16 @@
-// What a window or a message shows. The measures of the windows' tables were made for one font;
-// whatever stands in for it has to fit.
+// The measures of the windows' tables were made for one font; whatever stands in for it has to fit.
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "app/form1.h"
@@ -16,29 +20,51 @@
 #include "chart/form4.h"
 #include "keys/form7.h"
 #include "keys/form8.h"
+#include "platform/desktop/drawing/text.h"
+#include "platform/desktop/windows/folder_list.h"
 #include "platform/desktop/windows/window_widget.h"
+#include "platform/message_box.h"
 #include "selection/form3.h"
-#include "tests/conformance/driver.h"
 
 namespace skerrand {
 
 namespace {
 
+using platform::Frame_Style;
+using platform::desktop::Window_Widget;
+
+float pressed_x = 0;
+
+// The caption is a little wider than its button.
+constexpr platform::Control wide_captions[] = {{"Button",
+                                                platform::Control_Kind::Button,
+                                                "",
+                                                {0, 0, 2025, 300},
+                                                "abcdefghijklmnopqrstuvwxyz"}};
+constexpr platform::Window plain = {
+    .name = "plain",
+    .caption = "Plain",
+    .client_width = 2025,
+    .client_height = 1500,
+    .controls = wide_captions,
+    .mouse_down = [](platform::Mouse_Button, float x, float) { pressed_x = x; }};
+
 void Expect_Fits(const QWidget& widget, const char* name) {
     const QFontMetrics metrics(widget.font());
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
-        if (!label->pixmap().isNull()) return;
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    if (label != nullptr && !label->pixmap().isNull()) return;
+    if (label != nullptr) {
         EXPECT_FALSE(label->hasScaledContents()) << name << " shows no picture";
-        const int flags = label->wordWrap() ? Qt::TextWordWrap : 0;
         const QRect room(0, 0, label->width(), 1000);
+        const int flags = label->wordWrap() ? Qt::TextWordWrap : 0;
         const QRect needed = metrics.boundingRect(room, flags, label->text());
         EXPECT_LE(needed.width(), label->width()) << name;
         EXPECT_LE(needed.height(), label->height() + 1) << name;
     } else if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
         EXPECT_LE(metrics.horizontalAdvance(button->text()), widget.width() - 4) << name;
-    } else if (const auto* combo = qobject_cast<const QComboBox*>(&widget);
-               combo != nullptr && combo->isEditable()) {
+    } else if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
         const QLineEdit* line = combo->lineEdit();
+        if (line == nullptr) return;
         const QFontMetrics condensed(line->font());
         EXPECT_LE(condensed.horizontalAdvance(line->text()), line->width()) << name;
     }
@@ -48,19 +74,71 @@ TEST(Captions, No_Caption_Is_Cut_In_Its_Box) {
     for (const platform::Window* table :
          {&form1::window, &form2::window, &form3::window, &form4::window, &form5::window,
           &form6::window, &form7::window, &form8::window}) {
-        platform::desktop::Window_Widget window(*table);
-        window.show();
-        for (const auto& control : window.controls)
-            if (control.widget != nullptr) Expect_Fits(*control.widget, control.row->name);
+        Window_Widget window(*table);
+        window.Present();
+        const QPoint middle = window.screen()->availableGeometry().center();
+        const QPoint beside = window.frameGeometry().center() - middle;
+        EXPECT_TRUE(table->frame != Frame_Style::Splash || beside.manhattanLength() < 5);
+        for (const platform::desktop::Live_Control& control : window.controls) {
+            if (control.widget == nullptr) continue;
+            Expect_Fits(*control.widget, control.row->name);
+            if (control.row->kind == platform::Control_Kind::Label) {
+                const QColor colour = control.widget->palette().color(QPalette::WindowText);
+                EXPECT_EQ(colour, platform::desktop::To_Qt(control.row->colour));
+            }
+            if (const auto* line = qobject_cast<QLineEdit*>(control.widget)) {
+                EXPECT_EQ(line->alignment().testFlag(Qt::AlignHCenter), control.row->centred);
+            }
+        }
         if (window.menu_bar != nullptr) {
             EXPECT_LE(window.menu_bar->sizeHint().width(), window.width()) << table->name;
         }
     }
 }
 
-TEST(Captions, A_Path_In_A_Message_Has_One_Kind_Of_Separator) {
-    platform::Message_Box("/home/\xE9va\\skerrand.cfg", platform::Icon::Critical, "Title");
-    EXPECT_EQ(driver::Take_Messages().back().text, "/home/\xE9va/skerrand.cfg");
+TEST(Windows, A_Screen_At_Twice_The_Size_Must_Not_Halve_A_Text_A_Pen_Or_A_Press) {
+    Window_Widget window(plain);
+    window.Present();
+    const platform::Device_Context& device = window.canvas->device;
+    EXPECT_EQ(device.font.pixelSize(), 2 * platform::desktop::Default_Font().pixelSize());
+    EXPECT_EQ(device.pen_scale, 2);
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(20, 60), QPointF(20, 60), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.canvas, &press);
+    EXPECT_EQ(pressed_x, 300);
+    Expect_Fits(*window.controls[0].widget, "a condensed caption");
+}
+
+TEST(Folders, The_First_Folder_Of_The_Root_Must_Open_And_Be_Told_And_Named) {
+    platform::desktop::Folder_List list(nullptr);
+    list.Go_To("/");
+    bool told = false;
+    list.moved = [&told] { told = true; };
+    const std::string first = "/" + list.Subfolders().at(0);
+    auto* rows = list.findChild<QListWidget*>();
+    emit rows->itemActivated(rows->item(0));
+    EXPECT_TRUE(told);
+    EXPECT_EQ(list.Path(), first);
+    EXPECT_EQ(list.findChild<QLabel*>()->text().toStdString(), first);
+}
+
+// Over its window, whose picture is whole by then.
+TEST(Messages, A_Message_Stands_In_The_Way_Cuts_Its_Title_Or_Mixes_The_Separators) {
+    platform::Show(plain);
+    platform::LineTo(platform::Window_Device(plain), 9, 9);
+    QString shown;
+    QTimer::singleShot(0, [&shown] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        shown = box->text();
+        EXPECT_NE(box->parentWidget(), nullptr);
+        EXPECT_FALSE(platform::Window_Device(plain)->has_changed);
+        EXPECT_GT(box->width(), box->fontMetrics().horizontalAdvance(box->windowTitle()) + 100);
+        box->close();
+    });
+    platform::Message_Box("/home/\xE9va\\skerrand_config.cfg", platform::Icon::Critical,
+                          "A title that is longer than the text below it");
+    EXPECT_EQ(shown.toStdString(), "/home/\u00e9va/skerrand_config.cfg");
+    platform::Unload(plain);
 }
 
 }  // namespace

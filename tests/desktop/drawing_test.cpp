@@ -151,6 +151,21 @@ TEST(Drawing, Dashes_Must_Not_Start_Anew_At_Each_Short_Line_Of_An_Outline) {
     }
 }
 
+TEST(Drawing, No_Dash_Must_Crawl_With_The_Edge_That_Cuts_A_Line_And_No_Tab_Close_A_Gap) {
+    std::array<Page, 2> pages{Page(Pen_Style::Dashed), Page(Pen_Style::Dashed)};
+    for (int from = 0; Page & page : pages) {
+        MoveToEx(&page.device, from, 20), LineTo(&page.device, 200, 20);
+        TextOutA(&page.device, 50, 50, from == 0 ? "a b" : "a\tb");
+        EXPECT_GT(page.Drawn(), 90);
+        from = -999;
+    }
+    int differing = 0;  // a pixel at both ends of each dash may
+    for (int x = 0; x < 200; ++x)
+        differing += pages[0].image.pixel(x, 20) != pages[1].image.pixel(x, 20) ? 1 : 0;
+    EXPECT_LE(differing, 60);
+    EXPECT_EQ(pages[0].image.copy(0, 30, 240, 90), pages[1].image.copy(0, 30, 240, 90));
+}
+
 /// The arc of the ellipse in that box between two angles of the circle.
 void Draw_Arc(Page& page, const QRect& box, double from, double to) {
     const auto far = [&](double t) {

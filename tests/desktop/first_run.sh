@@ -5,11 +5,13 @@
 env -u DISPLAY "$bin/skerrand" 2> no_display.txt
 [ $? -eq 1 ] && [ "$(wc -l < no_display.txt)" -eq 1 ] || fail "no plain line without a display"
 
-begin skerrand
-window Settings
-touch skerrand_config.cfg # which the window's closing takes away again
-end_by HUP
-[ ! -e skerrand_config.cfg ] || fail "a setup that was not finished leaves settings"
+for signal in HUP INT; do
+    begin skerrand
+    window Settings
+    touch skerrand_config.cfg # which the window's closing takes away again
+    end_by $signal
+    [ ! -e skerrand_config.cfg ] || fail "a setup that was not finished leaves settings"
+done
 
 begin skerrand
 window Settings

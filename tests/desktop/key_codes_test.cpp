@@ -28,6 +28,7 @@ TEST(Key_Codes, No_Layout_Moves_A_Key_To_A_Wrong_Code) {
         {"keypad point of a German keyboard", {0xff9f, 0xffac}, {110}},
         {"keypad plus", {0xffab, 0xffab}, {107}},
         {"keypad Enter", {0xff8d}, {13}},
+        {"Scroll Lock", {0xff14}, {145}},
         {"Home that is no keypad's", {0xff50}, {36}},
         {"End", {0xff57}, {35}},
         {"F24", {0xffd5}, {135}},
@@ -41,6 +42,7 @@ TEST(Key_Codes, No_Layout_Moves_A_Key_To_A_Wrong_Code) {
         EXPECT_EQ(Codes_Of(row.keysyms), row.codes) << row.key;
     EXPECT_EQ(Codes_Of_Place(47), Key_Codes{186}) << "German o with dots";
     EXPECT_EQ(Codes_Of_Place(38), Key_Codes{65}) << "Greek alpha";
+    EXPECT_EQ(Codes_Of_Place(61), Key_Codes{191}) << "Greek slash";
     EXPECT_EQ(Codes_Of_Place(200), Key_Codes{});
 }
 

@@ -107,11 +107,14 @@ print_page
 cupsenable test
 expect_page
 
-lpoptions -p test/small -o media=A5
-lpoptions -d test/small > /dev/null
-print_page
-await_jobs || fail "a page is not printed"
-pdfinfo "$printed" | grep -q A5 || fail "the user's own paper is not taken"
+for option in media PageSize; do
+    lpoptions -p test/$option -o $option=A5
+    lpoptions -d test/$option > /dev/null
+    print_page
+    await_jobs || fail "a page is not printed"
+    pdfinfo "$printed" | grep -q A5 || fail "the user's own paper, by $option, is not taken"
+    rm -- "$printed"
+done
 sed /300dpi/d "$here/printer.ppd" > fine.ppd
 lpadmin -p test -P fine.ppd 2> /dev/null
 expect_sheet "a finer printer" 1200 6250

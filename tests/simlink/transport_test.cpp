@@ -2,6 +2,8 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <poll.h>
@@ -9,6 +11,7 @@
 
 #include "app/settings.h"
 #include "platform/link.h"
+#include "platform/posix/descriptor.h"
 #include "platform/posix/link_endpoint.h"
 #include "platform/simulator/server.h"
 #include "platform/simulator/simulator.h"
@@ -40,6 +43,29 @@ bool Ended_Well(pid_t child) {
 std::ptrdiff_t Open_Files(pid_t process) {
     return std::distance(
         std::filesystem::directory_iterator("/proc/" + std::to_string(process) + "/fd"), {});
+}
+
+/// The reply to a message with one file more than a client sends, and none of them to be written.
+std::uint32_t Reply_To_Two_Files() {
+    const posix::Descriptor file(open("/proc/self/exe", O_RDONLY));
+    const std::array files{file.Get(), file.Get()};
+    posix::Link_Reply answer{1, 99};
+    iovec packet{&answer, sizeof answer.sequence};
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof files)> control{};
+    msghdr message{};
+    message.msg_iov = &packet;
+    message.msg_iovlen = 1;
+    message.msg_control = control.data();
+    message.msg_controllen = control.size();
+    cmsghdr* const head = CMSG_FIRSTHDR(&message);
+    *head = {CMSG_LEN(sizeof files), SOL_SOCKET, SCM_RIGHTS};
+    std::memcpy(CMSG_DATA(head), files.data(), sizeof files);
+    const posix::Descriptor client(posix::Link_Socket(Class, connect));
+    pollfd news{client.Get(), POLLIN, 0};
+    sendmsg(client.Get(), &message, 0);
+    poll(&news, 1, Long_Enough);
+    recv(client.Get(), &answer, sizeof answer, 0);
+    return answer.reply;
 }
 
 class Transport : public testing::Test {
@@ -166,16 +192,32 @@ TEST_F(Transport, Lying_Server_Is_Believed_Or_Holds_The_Client) {
             return true;
         });
         close(listener);
-        EXPECT_EQ(Reply(c.time_out), c.expected) << c.lie;
+        // More messages than the socket holds.
+        for (int i = 0; i < (c.expected == Timed_Out ? 400 : 1); ++i)
+            ASSERT_EQ(Reply(i == 0 ? c.time_out : 0), c.expected) << c.lie;
         End_Server();
     }
 }
 
-TEST_F(Transport, Killed_Server_Blocks_The_Next_One) {
+TEST_F(Transport, Full_Queue_Of_A_Hung_Server_Holds_The_Client) {
+    const int listener = posix::Link_Socket(Class, bind);
+    ASSERT_EQ(listen(listener, 0), 0);
+    alarm(20);
+    for (int i = 0; FindWindowExA(Class) != 0; ++i)
+        ASSERT_LT(i, 9);
+    alarm(0);
+    close(listener);
+}
+
+TEST_F(Transport, Killed_Server_Blocks_The_Next_One_Or_Leaves_A_Connection) {
+    EXPECT_EQ(FindWindowExA(Class), 0U);
+    const std::ptrdiff_t files = Open_Files(getpid());
     Start_Server([](auto) { return 7; });
+    EXPECT_NE(FindWindowExA(Class), 0U);
     EXPECT_NE(simulator::Open_Window(Class), "") << "two at a time";
     End_Server();
     EXPECT_EQ(FindWindowExA(Class), 0U);
+    EXPECT_EQ(Open_Files(getpid()), files);
     EXPECT_EQ(Reply(), Gone);
     Start_Server([](auto) { return 8; });
     EXPECT_EQ(Reply(), 8U);
@@ -198,6 +240,12 @@ TEST_F(Transport, Hostile_Client_Ends_The_Server_Or_Stands_In_For_Another_User) 
     };
     EXPECT_TRUE(is_dropped(3) && is_dropped(8));
     EXPECT_EQ(Reply(), 0U);
+    CloseHandle(block);
+    EXPECT_EQ(Reply(), 0U);
+    const std::ptrdiff_t files = Open_Files(server);
+    EXPECT_EQ(Reply_To_Two_Files(), 0U);
+    EXPECT_EQ(Reply() + Reply() + Reply(), 0U);  // the server has seen it go
+    EXPECT_EQ(Open_Files(server), files);
     if (geteuid() != 0) GTEST_SKIP() << "only root can be another user";
     EXPECT_TRUE(Ended_Well(In_Child(
         [&] { return seteuid(65534) == 0 && FindWindowExA(Class) == 0 && is_dropped(4); })));
