@@ -165,10 +165,11 @@ bool Send_Document(const Reached& queue, int job, const char* title, const QByte
 }  // namespace
 
 Sheet Usual_Sheet() {
-    // The C library gives the number itself in the place of a text's address.
-    constexpr std::intptr_t Letter_Width = 216;  // millimetres
-    const bool is_letter =
-        reinterpret_cast<std::intptr_t>(nl_langinfo(_NL_PAPER_WIDTH)) == Letter_Width;
+    // The C library gives the number itself in the lower half of a text's address; the upper half
+    // is not set.
+    constexpr int Letter_Width = 216;  // millimetres
+    const auto address = reinterpret_cast<std::intptr_t>(nl_langinfo(_NL_PAPER_WIDTH));
+    const bool is_letter = static_cast<int>(address) == Letter_Width;
     constexpr double Margin = 5;
     return {Layout_Of(QPageSize(is_letter ? QPageSize::Letter : QPageSize::A4),
                       {Margin, Margin, Margin, Margin})};
