@@ -42,7 +42,7 @@ std::string Write_File(const fs::path& file, std::string_view text) {
     struct Closer {
         void operator()(std::FILE* stream) const { std::fclose(stream); }
     };
-    std::unique_ptr<std::FILE, Closer> stream(std::fopen(file.c_str(), "wb"));
+    std::unique_ptr<std::FILE, Closer> stream(std::fopen(file.string().c_str(), "wb"));
     if (!stream) return Fault("create", file, std::strerror(errno));
     const bool written = std::fwrite(text.data(), 1, text.size(), stream.get()) == text.size();
     // A full disk may show only now.
