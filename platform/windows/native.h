@@ -1,6 +1,6 @@
 #pragma once
 
-/// The system's own header, for the files of this back-end alone, without those of its macros that
+/// The system's own headers, for the files of this back-end alone, without those of its macros that
 /// stand for names of the layer. A namesake of the system's is called with "::" ahead.
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
@@ -14,3 +14,8 @@
 #undef HWND_NOTOPMOST
 #undef SWP_NOSIZE
 #undef SWP_NOMOVE
+
+// These lean on the one above.
+#include <commctrl.h>
+#include <mmsystem.h>
+#include <winspool.h>

@@ -13,14 +13,6 @@ namespace windows {
 
 namespace {
 
-/// What the system makes of a path by the working folder and the current drive.
-std::wstring Whole_Path(const std::wstring& path) {
-    const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
-    std::wstring whole(size, L'\0');
-    whole.resize(GetFullPathNameW(path.c_str(), size, whole.data(), nullptr));
-    return whole;
-}
-
 bool Is_Of_Kind(DWORD attributes, Entry_Kind kind) {
     if ((attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0) return false;
     const bool is_folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
@@ -29,14 +21,31 @@ bool Is_Of_Kind(DWORD attributes, Entry_Kind kind) {
 
 }  // namespace
 
-std::wstring Native_Path(std::string_view path) {
-    if (path.find('\0') != std::string_view::npos) return {};
-    std::wstring wide = path.empty() ? L"." : To_Wide(path);
-    if (wide.size() == 2 && wide[1] == L':') wide += L'\\';
-    std::wstring whole = Whole_Path(wide);
+std::wstring Whole_Path(const std::wstring& path) {
+    const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+    std::wstring whole(size, L'\0');
+    whole.resize(GetFullPathNameW(path.c_str(), size, whole.data(), nullptr));
+    constexpr std::size_t Root_Size = 3;  // of a drive
+    if (whole.size() > Root_Size && whole.ends_with(L'\\')) whole.pop_back();
+    return whole;
+}
+
+std::wstring Long_Form(const std::wstring& whole) {
     if (whole.starts_with(LR"(\\.\)") || whole.starts_with(LR"(\\?\)")) return {};
     if (whole.starts_with(LR"(\\)")) return LR"(\\?\UNC)" + whole.substr(1);
     return LR"(\\?\)" + whole;
+}
+
+std::wstring Native_Path(std::string_view path) {
+    if (path.find('\0') != std::string_view::npos) return {};
+    const std::wstring wide = path.empty() ? L"." : To_Wide(path);
+    const bool is_drive = wide.size() == 2 && wide[1] == L':';
+    return Long_Form(Whole_Path(is_drive ? wide + L'\\' : wide));
+}
+
+bool Is_Folder(const std::wstring& whole) {
+    const DWORD attributes = Attributes_Of(Long_Form(whole));
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
 DWORD Attributes_Of(const std::wstring& native) {

@@ -10,10 +10,20 @@
 /// The way from the program's paths to the system's, and what stands in a folder.
 namespace platform::windows {
 
-/// The whole path in the form that is not cut at 260 characters. A drive's name alone is the
-/// drive's root, since the program joins it with "\" to reach what lies there. Empty for a path
-/// that no file can have: one with a zero byte in it, or a device's name.
+/// What the system makes of a path by the working folder and the drives' current folders: no "."
+/// and
+/// "..", and no separator at its end but a root's.
+std::wstring Whole_Path(const std::wstring& path);
+
+/// A whole path in the form that is not cut at 260 characters; empty for a device's name.
+std::wstring Long_Form(const std::wstring& whole);
+
+/// A program's path in that form. A drive's name alone is the drive's root, since the program joins
+/// it with "\" to reach what lies there. Empty for a path that no file can have: one with a zero
+/// byte in it, or a device's name.
 std::wstring Native_Path(std::string_view path);
+
+bool Is_Folder(const std::wstring& whole);
 
 /// The attributes of what stands there, a link followed; INVALID_FILE_ATTRIBUTES if nothing does.
 DWORD Attributes_Of(const std::wstring& native);
