@@ -42,7 +42,8 @@ Native_Kind Kind_Of(const Live_Control& control) {
     constexpr DWORD combo_style = WS_TABSTOP | WS_VSCROLL;
     switch (control.row->kind) {
         case Control_Kind::Frame:
-            return {L"BUTTON", BS_GROUPBOX};
+            // It paints nothing but its edge: the window shows through it.
+            return {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT};
         case Control_Kind::Label:
             return Label_Kind(control);
         case Control_Kind::Button:

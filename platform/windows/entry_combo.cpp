@@ -162,6 +162,12 @@ LRESULT CALLBACK Edit_Procedure(HWND edit, UINT message, WPARAM first, LPARAM se
         case WM_KILLFOCUS:
             Close_List(combo);
             break;
+        case EM_SETSEL:
+            // All of a text that is longer than the box: its start stays in view.
+            if (first == 0 && second == -1) {
+                return DefSubclassProc(edit, message, WPARAM(GetWindowTextLengthW(edit)), 0);
+            }
+            break;
         default:
             break;
     }

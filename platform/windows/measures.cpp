@@ -14,34 +14,6 @@ namespace {
 constexpr double Default_Points = 8.25;
 constexpr double Points_Per_Inch = 72;
 
-int CALLBACK Note_Found(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
-    *reinterpret_cast<bool*>(found) = true;
-    return 0;
-}
-
-bool Has_Family(const wchar_t* family) {
-    LOGFONTW wanted{};
-    wanted.lfCharSet = DEFAULT_CHARSET;
-    lstrcpynW(wanted.lfFaceName, family, LF_FACESIZE);
-    bool found = false;
-    const HDC screen = GetDC(nullptr);
-    EnumFontFamiliesExW(screen, &wanted, Note_Found, reinterpret_cast<LPARAM>(&found), 0);
-    ReleaseDC(nullptr, screen);
-    return found;
-}
-
-/// The outline face of the one that the windows' measures were made for: that one itself comes in
-/// some sizes only, and is drawn out to others.
-const wchar_t* Default_Family() {
-    static const wchar_t* const family = [] {
-        for (const wchar_t* name : {L"Microsoft Sans Serif", L"Tahoma", L"Arial"}) {
-            if (Has_Family(name)) return name;
-        }
-        return L"MS Shell Dlg";
-    }();
-    return family;
-}
-
 int Font_Pixels(double points) {
     return static_cast<int>(std::lround(points * Screen_Dpi() / Points_Per_Inch));
 }
@@ -50,6 +22,32 @@ HFONT New_Font(int pixels, bool bold, const wchar_t* family) {
     return CreateFontW(-pixels, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET,
                        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
                        DEFAULT_PITCH | FF_SWISS, family);
+}
+
+/// Width of the small letters in sizes of the font that the measures were made for; in a wider face
+/// captions would be cut.
+constexpr double Widest_Alphabet = 13.4;
+
+bool Is_Narrow(const wchar_t* family) {
+    constexpr int Size = 32;
+    const HFONT font = New_Font(Size, false, family);
+    const LONG width = Text_Extent(font, L"abcdefghijklmnopqrstuvwxyz").cx;
+    DeleteObject(font);
+    return width <= Widest_Alphabet * Size;
+}
+
+/// The outline face of the one that the windows' measures were made for: that one itself comes in
+/// some sizes only, and is drawn out to others. The system puts another face in the place of one
+/// that it does not have, and that may be a wide one.
+const wchar_t* Default_Family() {
+    static const wchar_t* const family = [] {
+        for (const wchar_t* name : {L"Microsoft Sans Serif", L"MS Sans Serif", L"Arial",
+                                    L"Nimbus Sans", L"DejaVu Sans Condensed"}) {
+            if (Is_Narrow(name)) return name;
+        }
+        return L"MS Shell Dlg";
+    }();
+    return family;
 }
 
 }  // namespace
