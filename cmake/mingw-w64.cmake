@@ -4,6 +4,7 @@ set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES SKERRAND_WINDOWS_PROCESSOR)
 set(CMAKE_SYSTEM_PROCESSOR ${SKERRAND_WINDOWS_PROCESSOR})
 set(toolchain ${SKERRAND_WINDOWS_PROCESSOR}-w64-mingw32)
+set(CMAKE_C_COMPILER ${toolchain}-gcc-posix)  # of the test library
 set(CMAKE_CXX_COMPILER ${toolchain}-g++-posix)
 set(CMAKE_RC_COMPILER ${toolchain}-windres)
 

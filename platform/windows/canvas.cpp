@@ -71,19 +71,19 @@ void Fit_Canvas(Live_Window& window) {
         DeleteDC(old);
         DeleteObject(old_bitmap);
     }
-    window.has_changed = true;
+    window.device.has_changed = true;
     Show_Drawing(window);
 }
 
 void Wipe_Canvas(Live_Window& window) {
     if (window.device.dc == nullptr) return;
     Fill_All(window);
-    window.has_changed = true;
+    window.device.has_changed = true;
 }
 
 void Show_Drawing(Live_Window& window) {
-    if (!window.has_changed) return;
-    window.has_changed = false;
+    if (!window.device.has_changed) return;
+    window.device.has_changed = false;
     InvalidateRect(window.handle, nullptr, FALSE);
     for (const Live_Control& control : window.controls) {
         if (control.row->kind == Control_Kind::Label && control.transparent)

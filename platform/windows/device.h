@@ -8,9 +8,9 @@ namespace platform {
 /// A drawing target with its drawing state: the bitmap behind a window's client area, or a page.
 struct Device_Context {
     HDC dc = nullptr;      ///< null: calls change the state and draw nothing
-    bool is_page = false;  ///< dashes are as long as on a screen, whatever the dots
+    bool is_page = false;  ///< dashes have lengths of the paper
     int dots_per_inch = 96;
-    void (*changed)(Device_Context& device) = nullptr;  ///< called ahead of each change of it
+    bool has_changed = false;  ///< the picture is not what the screen shows
 
     Colour pen_colour = Colour_Black;
     int pen_width = 1;

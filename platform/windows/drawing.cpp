@@ -12,10 +12,9 @@ namespace platform {
 
 namespace {
 
-/// A dash and the gap behind it, in pixels of a screen; short enough to show on short lines too.
-constexpr int Dash = 5;
-constexpr int Gap = 4;
-constexpr int Screen_Resolution = 96;
+/// A dash and the gap behind it, in 32nds of an inch; short enough to show on short lines too.
+constexpr DWORD Dash = 2;
+constexpr DWORD Gap = 1;
 
 /// A limit far above any use.
 constexpr int Widest_Pen = 256;
@@ -38,11 +37,11 @@ void Set_Pen(Device_Context& device) {
         device.pen = ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_ROUND | PS_JOIN_ROUND, width,
                                   &brush, 0, nullptr);
     } else {
-        const int scale = device.is_page ? device.dots_per_inch : Screen_Resolution;
-        const DWORD lengths[] = {static_cast<DWORD>(Dash * scale / Screen_Resolution),
-                                 static_cast<DWORD>(Gap * scale / Screen_Resolution)};
-        // The thin one is the faster by far, and its dashes run on from line to line.
+        // The thin one is the faster by far, and its dashes run on from line to line. The system
+        // counts its lengths in steps of three pixels.
         const bool is_thin = width == 1 && !device.is_page;
+        const DWORD dots = is_thin ? 1U : static_cast<DWORD>(device.dots_per_inch / 32);
+        const DWORD lengths[] = {Dash * dots, Gap * dots};
         const DWORD style =
             is_thin ? PS_COSMETIC | PS_USERSTYLE : PS_GEOMETRIC | PS_USERSTYLE | PS_ENDCAP_FLAT;
         device.pen = ExtCreatePen(style, width, &brush, 2, lengths);
@@ -53,7 +52,7 @@ void Set_Pen(Device_Context& device) {
 /// The native context with the device's state, ready to draw; null if nothing can be drawn.
 HDC Ready(Device_Context* device) {
     if (device == nullptr || device->dc == nullptr) return nullptr;
-    if (device->changed != nullptr) device->changed(*device);
+    device->has_changed = true;
     if (device->state_is_set) return device->dc;
     Set_Pen(*device);
     const bool is_hollow = device->fill_style == Fill_Style::Hollow;

@@ -53,7 +53,6 @@ struct Live_Window {
     Device_Context device;
     HBITMAP bitmap = nullptr;  ///< the picture of the client area
     SIZE bitmap_size = {};
-    bool has_changed = false;             ///< the picture is not what the screen shows
     std::array<double, 4> user_bounds{};  ///< left, top, right, bottom
     HWND focus = nullptr;                 ///< the control to get it back
     bool is_topmost = false;
