@@ -41,8 +41,8 @@ bool Is_Narrow(const wchar_t* family) {
 /// that it does not have, and that may be a wide one.
 const wchar_t* Default_Family() {
     static const wchar_t* const family = [] {
-        for (const wchar_t* name : {L"Microsoft Sans Serif", L"MS Sans Serif", L"Arial",
-                                    L"Nimbus Sans", L"DejaVu Sans Condensed"}) {
+        for (const wchar_t* name :
+             {L"Microsoft Sans Serif", L"MS Sans Serif", L"Arial", L"DejaVu Sans Condensed"}) {
             if (Is_Narrow(name)) return name;
         }
         return L"MS Shell Dlg";
