@@ -5,6 +5,7 @@
 #include "platform/windows/entry_combo.h"
 #include "platform/windows/folder_list.h"
 #include "platform/windows/handlers.h"
+#include "platform/windows/measures.h"
 #include "platform/windows/menus.h"
 #include "platform/windows/text.h"
 
@@ -16,6 +17,32 @@ namespace {
 
 Control_Kind Kind_Of(const Live_Control& control) {
     return control.row->kind;
+}
+
+/// What is left for the caption beside the mark of a check box or option button.
+int Room_For_Caption(const Live_Control& control) {
+    const int width = control.place.right - control.place.left;
+    const bool has_mark =
+        Kind_Of(control) == Control_Kind::Check || Kind_Of(control) == Control_Kind::Option;
+    constexpr int Mark = 270;  // twips
+    return has_mark ? width - To_Pixels(Mark) : width;
+}
+
+/// A caption a little too long for its control is condensed rather than cut.
+void Show_Caption(Live_Control& control, std::string_view caption) {
+    const std::wstring text = To_Wide(caption);
+    const auto old = reinterpret_cast<HFONT>(SendMessageW(control.handle, WM_GETFONT, 0, 0));
+    HFONT font = control.font != nullptr ? control.font : Default_Font();
+    const int room = Room_For_Caption(control);
+    const bool is_one_line = (GetWindowLongW(control.handle, GWL_STYLE) & SS_TYPEMASK) != SS_LEFT ||
+                             Kind_Of(control) != Control_Kind::Label;
+    if (is_one_line && Text_Extent(font, text).cx > room) {
+        font = Make_Narrow_Font(font, text, room);
+    }
+    SendMessageW(control.handle, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    if (old != font && old != control.font && old != Default_Font()) DeleteObject(old);
+    const bool is_label = Kind_Of(control) == Control_Kind::Label;
+    SetWindowTextW(control.handle, is_label ? text.c_str() : Escaped_Caption(caption).c_str());
 }
 
 void Show_Check(Live_Control& control, bool checked) {
@@ -82,13 +109,11 @@ void Show_First_Caption(Live_Control& control) {
             Set_Combo_Text(control, control.row->caption);
             break;
         case Control_Kind::Label:
-            SetWindowTextW(control.handle, To_Wide(control.row->caption).c_str());
-            break;
         case Control_Kind::Frame:
         case Control_Kind::Button:
         case Control_Kind::Check:
         case Control_Kind::Option:
-            SetWindowTextW(control.handle, Escaped_Caption(control.row->caption).c_str());
+            Show_Caption(control, control.row->caption);
             break;
         default:
             break;
@@ -139,13 +164,13 @@ void Set_Caption(Control_Ref control, std::string_view caption) {
         case Control_Kind::Label:
             // Setting the same caption anew would make it flicker.
             if (windows::Window_Text(live->handle) == caption) break;
-            SetWindowTextW(live->handle, windows::To_Wide(caption).c_str());
+            windows::Show_Caption(*live, caption);
             break;
         case Control_Kind::Frame:
         case Control_Kind::Button:
         case Control_Kind::Check:
         case Control_Kind::Option:
-            SetWindowTextW(live->handle, windows::Escaped_Caption(caption).c_str());
+            windows::Show_Caption(*live, caption);
             break;
         default:
             break;

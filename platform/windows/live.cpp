@@ -6,6 +6,7 @@
 #include "platform/windows/canvas.h"
 #include "platform/windows/frame.h"
 #include "platform/windows/handlers.h"
+#include "platform/windows/measures.h"
 
 namespace platform::windows {
 
@@ -16,9 +17,17 @@ using Windows = std::vector<std::unique_ptr<Live_Window>>;
 Windows loaded;
 Windows retired;
 
+/// A caption that was condensed has a font of its own.
+void Drop_Narrow_Font(const Live_Control& control) {
+    if (control.handle == nullptr) return;
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(control.handle, WM_GETFONT, 0, 0));
+    if (font != nullptr && font != control.font && font != Default_Font()) DeleteObject(font);
+}
+
 void Destroy(Live_Window& window) {
     for (Live_Control& control : window.controls) {
         if (control.list != nullptr) DestroyWindow(control.list);
+        Drop_Narrow_Font(control);
     }
     SetWindowLongPtrW(window.handle, GWLP_USERDATA, 0);
     DestroyWindow(window.handle);

@@ -89,6 +89,27 @@ HFONT Make_Font(const Font& font) {
                     is_default ? Default_Family() : wide.c_str());
 }
 
+HFONT Make_Narrow_Font(HFONT font, std::wstring_view text, int room) {
+    constexpr int Least_Stretch = 75;  // per cent
+    TEXTMETRICW metrics;
+    LOGFONTW narrow;
+    const HDC screen = GetDC(nullptr);
+    const HGDIOBJ old = SelectObject(screen, font);
+    GetTextMetricsW(screen, &metrics);
+    SelectObject(screen, old);
+    ReleaseDC(nullptr, screen);
+    GetObjectW(font, sizeof narrow, &narrow);
+    HFONT made = nullptr;
+    narrow.lfWidth = metrics.tmAveCharWidth;
+    do {
+        if (made != nullptr) DeleteObject(made);
+        --narrow.lfWidth;
+        made = CreateFontIndirectW(&narrow);
+    } while (Text_Extent(made, text).cx > room &&
+             (narrow.lfWidth - 1) * 100 >= metrics.tmAveCharWidth * Least_Stretch);
+    return made;
+}
+
 SIZE Text_Extent(HFONT font, std::wstring_view text) {
     const HDC screen = GetDC(nullptr);
     const HGDIOBJ old = SelectObject(screen, font);

@@ -22,8 +22,12 @@ HFONT Default_Font();
 /// The row's font; null if that is the default font.
 HFONT Make_Font(const Font& font);
 
-/// A font of that height in pixels of a device; what stands in `like` otherwise.
+/// The default font in that height, in pixels of any device.
 HFONT Make_Default_Font(int pixels);
+
+/// The same font with narrower letters, for a text that has so many pixels; not so narrow that it
+/// is hard to read.
+HFONT Make_Narrow_Font(HFONT font, std::wstring_view text, int room);
 
 /// In pixels of the screen.
 SIZE Text_Extent(HFONT font, std::wstring_view text);
