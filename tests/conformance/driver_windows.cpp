@@ -161,7 +161,7 @@ void Resize(const Window& window, int client_width, int client_height) {
 void Do(Deed deed, const Window& window) {
     constexpr WPARAM commands[] = {SC_MINIMIZE, SC_RESTORE, SC_CLOSE};
     PostMessageW(windows::Find_Window(window)->handle, WM_SYSCOMMAND, commands[deed], 0);
-    Advance(100);
+    Advance(400);  // A window manager may put a size in place that was there before.
 }
 
 void Key(const Window& window, int code, bool down) {
