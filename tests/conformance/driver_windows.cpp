@@ -159,9 +159,10 @@ void Resize(const Window& window, int client_width, int client_height) {
 }
 
 void Do(Deed deed, const Window& window) {
+    Advance(300);  // The window manager's news of what was done before may still be on its way.
     constexpr WPARAM commands[] = {SC_MINIMIZE, SC_RESTORE, SC_CLOSE};
     PostMessageW(windows::Find_Window(window)->handle, WM_SYSCOMMAND, commands[deed], 0);
-    Advance(400);  // A window manager may put a size in place that was there before.
+    Advance(200);
 }
 
 void Key(const Window& window, int code, bool down) {
