@@ -38,7 +38,7 @@ void Destroy(Live_Window& window) {
     DeleteObject(window.back_brush);
 }
 
-void Destroy_All(Windows windows) {
+void Destroy_All(const Windows& windows) {
     for (const auto& window : windows)
         Destroy(*window);
 }

@@ -49,7 +49,8 @@ std::wstring Default_Printer() {
     GetDefaultPrinterW(nullptr, &size);
     std::wstring name(size, L'\0');
     if (size == 0 || !GetDefaultPrinterW(name.data(), &size)) return {};
-    return name.c_str();
+    name.resize(size - 1);  // without the zero at its end
+    return name;
 }
 
 SIZE Extent(std::string_view text) {
