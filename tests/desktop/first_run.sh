@@ -17,7 +17,8 @@ click 200 370
 answer wrong-folder
 [ ! -e skerrand_config.cfg ] || fail "setup took a folder without the simulator"
 window Settings
-click 60 212  # the first folder of the list, below ".."
+click 60 193  # into the list: the first folder, below ".."
+keys Home Down
 keys Return
 click 200 370
 answer settings-written

@@ -2,14 +2,16 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 
 /// A fresh folder that is the working folder for as long as the object lives.
 class Scratch_Folder {
   public:
     Scratch_Folder() : old_(std::filesystem::current_path()) {
-        std::string pattern = (std::filesystem::temp_directory_path() / "skerrand_XXXXXX").string();
-        if (mkdtemp(pattern.data()) != nullptr) path_ = pattern;
+        const std::string name = "skerrand_" + std::to_string(std::random_device()());
+        path_ = (std::filesystem::temp_directory_path() / name).string();
+        std::filesystem::create_directory(path_);
         std::filesystem::current_path(path_);
     }
     Scratch_Folder(const Scratch_Folder&) = delete;
