@@ -15,7 +15,9 @@ using enum Boundary_Kind;
 
 std::string Drawn() {
     platform::Device_Context device;
+    magnetic_table.fill(1821);  // 10 degrees east
     Draw_Chart({&device, 400, 400});
+    magnetic_table.fill(0);
     std::string lines;
     for (const auto& call : device.picture.calls)
         lines += platform::headless::Call_Text(device.picture, call) + "\n";
@@ -25,7 +27,6 @@ std::string Drawn() {
 /// The view reaches so many degrees from the equator's start, the middle at (200, 200): 0.01 make
 /// 20000 pixels a degree, 2 make 100.
 void Clear_Chart(double degrees, std::int16_t zoom) {
-    magnetic_table.fill(0);
     chart_view = {-degrees, degrees, degrees, -degrees, {}, {}, zoom};
     current_airport = {};
     current_airspaces.clear();
@@ -85,7 +86,7 @@ TEST(Airport_Layers, PlaceOnTheViewsBoundIsDrawnOrABeamPointsTheWrongWay) {
     current_airport.parkings = {
         {"GATE A 1", 0.005, 0, 50}, {"BOUND", 0.01, 0, 50}, {"OUT", 0, -0.0101, 5000}};
     // A beam flown northwards opens to the south: 1800 feet are 0.29605 miles, 99 pixels.
-    current_airport.ils = {{"ILS", 0, 0, 0, "110.3"}, {"OUT", 0.01, 0, 0, "1"}};
+    current_airport.ils = {{"ILS", 0, 0, 350, "110.3"}, {"OUT", 0.01, 0, 0, "1"}};
     EXPECT_EQ(Drawn(),
               "ellipse 196 104 204 96 | solid 2 128,64,64 | solid 128,64,64\n"
               "text 200 100 GATE A 1 | 0,0,0\n"

@@ -41,12 +41,10 @@ void Answer() {
     if (box != known) standing.start();
     known = box;
     if (box == nullptr || standing.elapsed() < 300) return;
-    const Icon icon = box->icon() == QMessageBox::Information ? Icon::Information
-                      : box->icon() == QMessageBox::Warning   ? Icon::Exclamation
-                                                              : Icon::Critical;
+    static_assert(QMessageBox::Information == 1 && QMessageBox::Critical == 3);
     const QString text = box->text().replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    messages.push_back({icon, desktop::From_Qt_Lossy(box->windowTitle()),
-                        desktop::From_Qt_Lossy(text),
+    messages.push_back({static_cast<Icon>(box->icon() - 1),
+                        desktop::From_Qt_Lossy(box->windowTitle()), desktop::From_Qt_Lossy(text),
                         box->windowFlags().testFlag(Qt::WindowStaysOnTopHint)});
     known = nullptr;
     QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
@@ -92,13 +90,12 @@ long long Clock() {
 }
 
 void Click(Control_Ref control) {
-    QWidget* widget = desktop::Find_Live(control)->widget;
-    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+    QTest::mouseClick(desktop::Find_Live(control)->widget, Qt::LeftButton, {}, QPoint(8, 8));
 }
 
 void Double_Click(QListView& view, QPoint place) {
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
 }
 
 void Double_Click(Control_Ref list, Spot spot) {
@@ -120,8 +117,7 @@ void Pick(Control_Ref list_or_combo, int index) {
         QTest::keyClick(combo->view(), Qt::Key_Return);
     } else {
         auto* view = static_cast<QListView*>(widget);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          Place_Of_Entry(*view, index));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Place_Of_Entry(*view, index));
     }
 }
 
@@ -138,11 +134,10 @@ void Type(Control_Ref combo, const std::string& text) {
 void Press(const Window& window, Mouse_Button button, int x, int y) {
     QWidget* canvas = desktop::Find_Window(window)->canvas;
     const QPoint place = (QPointF(x, y) / canvas->devicePixelRatioF()).toPoint();
-    QWidget* control = canvas->childAt(place);
-    QWidget* hit = control != nullptr ? control : canvas;
+    QWidget* hit = canvas->childAt(place);
+    if (hit == nullptr) hit = canvas;
     constexpr Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
-    QTest::mouseClick(hit, buttons[static_cast<int>(button)], Qt::NoModifier,
-                      hit->mapFrom(canvas, place));
+    QTest::mouseClick(hit, buttons[static_cast<int>(button)], {}, hit->mapFrom(canvas, place));
 }
 
 void Resize(const Window& window, int client_width, int client_height) {

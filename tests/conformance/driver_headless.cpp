@@ -50,9 +50,8 @@ void Double_Click(Control_Ref list, Spot) {
 }
 
 void Enter_Folder(Control_Ref folder_list, int index) {
-    const auto names = std::filesystem::directory_iterator(Folder_Path(folder_list));
-    const auto entry = std::next(std::filesystem::begin(names), index);
-    Do("folder", Name(folder_list) + " " + entry->path().string());
+    const std::filesystem::directory_iterator names(Folder_Path(folder_list));
+    Do("folder", Name(folder_list) + " " + std::next(names, index)->path().string());
 }
 
 void Pick(Control_Ref list_or_combo, int index) {
@@ -107,7 +106,8 @@ std::vector<Message> Take_Messages() {
     return messages;
 }
 
-// Of the shapes only lines along the axes are seen here; the others are looked at as calls.
+// Of the shapes only lines, and those along the axes, are seen here; the others are looked at as
+// calls.
 Colour Pixel(const Window& window, int x, int y) {
     Colour colour = window.back_colour;
     const headless::Picture& picture = Window_Device(window)->picture;
@@ -115,17 +115,18 @@ Colour Pixel(const Window& window, int x, int y) {
         const int half = picture.states[state].pen_width / 2;
         const auto [left, right] = std::minmax(ends[0], ends[2]);
         const auto [top, bottom] = std::minmax(ends[1], ends[3]);
-        if (kind != headless::Call_Kind::Line || (left != right && top != bottom)) continue;
-        const bool across = left - half <= x && x <= right + half;
-        const bool down = top - half <= y && y <= bottom + half;
-        if (across && down) colour = picture.states[state].pen_colour;
+        if (kind == headless::Call_Kind::Line && left - half <= x && x <= right + half &&
+            top - half <= y && y <= bottom + half) {
+            colour = picture.states[state].pen_colour;
+        }
     }
-    const headless::Form* form = headless::Find_Form(window);
     for (std::size_t i = 0; i < window.controls.size(); ++i) {
+        const auto* label = headless::Find_State({&window, i}, Control_Kind::Label);
         const auto& [left, top, width, height] = window.controls[i].at;
-        const bool covers = window.controls[i].kind == Control_Kind::Label && x * 15 >= left &&
-                            x * 15 < left + width && y * 15 >= top && y * 15 < top + height;
-        if (covers && !form->controls[i].transparent) colour = {};
+        if (label != nullptr && !label->transparent && x * 15 >= left && x * 15 < left + width &&
+            y * 15 >= top && y * 15 < top + height) {
+            colour = {};
+        }
     }
     return colour;
 }

@@ -17,9 +17,8 @@ struct Counts {
 };
 inline Counts counts;
 
-/// What a tick of `Fast` does besides counting, and what the load of the second window does.
+/// What a tick of `Fast` does besides counting.
 inline platform::Handler on_fast_tick = nullptr;
-inline platform::Handler on_second_load = nullptr;
 
 template <int Counts::*field>
 void Count() {
@@ -31,10 +30,6 @@ inline void Tick_Fast() {
     if (on_fast_tick != nullptr) on_fast_tick();
 }
 
-inline void Load_Second() {
-    if (on_second_load != nullptr) on_second_load();
-}
-
 inline void Take_Press(platform::Mouse_Button button, float x, float y) {
     ++counts.presses;
     counts.button = button;
@@ -44,6 +39,7 @@ inline void Take_Press(platform::Mouse_Button button, float x, float y) {
 
 void Text1_Change();
 void Main_Resize();
+void Load_Second();
 
 // The controls keep to the right part of the window, so that the left part shows the drawing.
 using enum platform::Control_Kind;
@@ -68,18 +64,11 @@ inline constexpr platform::Control main_controls[] = {
 };
 
 using enum platform::Frame_Style;
-inline constexpr platform::Window Main_Window = {"Main_Window",
-                                                 "Main",
-                                                 6000,
-                                                 4800,
-                                                 main_controls,
-                                                 Sizable,
-                                                 platform::Colour_White,
-                                                 platform::Colour{0, 192, 0},
-                                                 Count<&Counts::loads>,
-                                                 Count<&Counts::unloads>,
-                                                 Main_Resize,
-                                                 Take_Press};
+inline constexpr auto Green = platform::Colour{0, 192, 0};
+inline constexpr auto Load_Main = Count<&Counts::loads>, Unload_Main = Count<&Counts::unloads>;
+inline constexpr platform::Window Main_Window = {
+    "Main_Window",          "Main", 6000,      4800,        main_controls, Sizable,
+    platform::Colour_White, Green,  Load_Main, Unload_Main, Main_Resize,   Take_Press};
 
 // Out of the order of the places on the screen: the Tab key goes by the table.
 inline constexpr platform::Control second_controls[] = {
@@ -109,7 +98,7 @@ consteval platform::Control_Ref Second(std::string_view name) {
 /// What a small program starts with: the main window, everything counted from 0.
 inline void Show_Main() {
     counts = {};
-    on_fast_tick = on_second_load = nullptr;
+    on_fast_tick = nullptr;
     platform::Show(Main_Window);
 }
 
@@ -117,6 +106,11 @@ inline void Show_Main() {
 inline void Text1_Change() {
     ++counts.text_changes;
     if (platform::Text_Of(Main("Text1")) == "twice") platform::Set_Text(Main("Text1"), "once");
+}
+
+inline void Load_Second() {
+    using enum platform::Insert_After;
+    SetWindowPos(Second_Window, HWND_TOPMOST, 0, 0, 0, 0, platform::SWP_NOSIZE);
 }
 
 inline void Main_Resize() {

@@ -7,7 +7,7 @@ set_up
 # So far that it does not land before the test ends, on a slow machine either.
 begin skerrand-simulator --departure KSEA --destination EGLL --speed-up 10
 simulator=$program
-wait_for "the simulator does not stand" grep -q "skerrand/UIPCMAIN$XDG_RUNTIME_DIR" /proc/net/unix
+wait_for "the simulator does not stand" grep -q "skerrand/$(id -u)/UIPCMAIN$XDG_RUNTIME_DIR" /proc/net/unix
 begin skerrand
 choose seattle heathrow
 
@@ -28,10 +28,4 @@ kill -KILL $simulator
 answer link-lost
 id=$chart
 wait_for "the aircraft stays on the chart" eval '[ "$(pixels "$chart" $green)" -eq 0 ]'
-click 15 137 # "C" brings the airport back
-sleep 1.2
-! shown 'Skerrand Message' > /dev/null || fail "a second message"
-import -window "$chart" again.png
-[ "$(compare -metric AE after.png again.png null: 2>&1)" -gt 100 ] || fail "the chart stands still"
-
 close_program

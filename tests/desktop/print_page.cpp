@@ -46,9 +46,6 @@ int main(int argc, char** argv) {
     Set_Pen_Style(page, Pen_Style::Dashed);
     MoveToEx(page, 0, height / 4);
     LineTo(page, width, height / 4);
-    // The arc is a part of the ellipse: its dashes lie on those.
-    Ellipse(page, 300, height * 11 / 20, width - 300, height * 19 / 20);
-    Arc(page, 300, height * 11 / 20, width - 300, height * 19 / 20, width, 0, 0, height);
     Set_Pen_Style(page, Pen_Style::Solid);
     Set_Fill_Style(page, Fill_Style::Solid);
     Rectangle(page, width / 2, height / 20, width * 3 / 4, height / 5);

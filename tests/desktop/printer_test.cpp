@@ -2,31 +2,22 @@
 
 #include "platform/printer.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <gtest/gtest.h>
+
+#include "tests/conformance/driver.h"
 
 namespace platform {
 
 namespace {
 
-/// A scratch folder as the working folder, where no printer is reached, least of all a real one.
 class Printing : public testing::Test {
   protected:
     void SetUp() override {
-        qputenv("CUPS_SERVER", "/no/such/socket");
         ASSERT_TRUE(QDir::setCurrent(folder.path()));
-        QObject::connect(&answers, &QTimer::timeout, [this] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr) return;
-            messages << box->text();
-            box->accept();
-        });
-        answers.start(5);
         ASSERT_TRUE(Open_Printer());
+        driver::Take_Messages();
     }
 
     static std::string Files() {
@@ -34,8 +25,6 @@ class Printing : public testing::Test {
     }
 
     QTemporaryDir folder;
-    QTimer answers;
-    QStringList messages;
 };
 
 bool Print(const char* title) {
@@ -48,9 +37,10 @@ TEST_F(Printing, A_File_Must_Not_Be_Overwritten_Or_Bear_A_Name_That_No_Folder_Ta
     for (const char* title : {"KSEA Chart", "KSEA Chart", "../A\\B\n", ""})
         EXPECT_TRUE(Print(title)) << title;
     EXPECT_EQ(Files(), "KSEA Chart (2).pdf|KSEA Chart.pdf|_.._A_B_.pdf|_.pdf");
-    ASSERT_EQ(messages.size(), 4);
-    EXPECT_TRUE(messages[1].contains("\"" + folder.path() + "/KSEA Chart (2).pdf\""))
-        << messages[1].toStdString();
+    const auto messages = driver::Take_Messages();
+    ASSERT_EQ(messages.size(), 4U);
+    const std::string path = "\"" + folder.path().toStdString() + "/KSEA Chart (2).pdf\"";
+    EXPECT_NE(messages[1].text.find(path), std::string::npos) << messages[1].text;
 }
 
 TEST_F(Printing, A_Dropped_Document_Must_Not_Come_Out_Later) {
@@ -65,7 +55,7 @@ TEST_F(Printing, A_Dropped_Document_Must_Not_Come_Out_Later) {
 TEST_F(Printing, A_File_That_Cannot_Be_Written_Must_Not_Pass_For_A_Print) {
     ASSERT_TRUE(folder.remove());
     EXPECT_FALSE(Print("KSEA Chart"));
-    EXPECT_TRUE(messages.isEmpty());
+    EXPECT_TRUE(driver::Take_Messages().empty());
 }
 
 }  // namespace

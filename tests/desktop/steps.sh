@@ -7,6 +7,9 @@ bin=$1
 folder=$2
 pictures=$folder/pictures
 scripts=$(dirname "$(readlink -f "$0")")/../../scripts
+for tool in xvfb-run xdotool import; do
+    command -v $tool > /dev/null || { echo "$tool is not installed"; exit 77; }
+done
 . "$scripts/hand.sh"
 
 # How many pixels of a window have that colour.

@@ -11,7 +11,12 @@ TEST(Code_Page, Every_Byte_Comes_Back_From_Utf8) {
     std::string all(256, '\0');
     std::iota(all.begin(), all.end(), '\0');
     EXPECT_EQ(From_Utf8(To_Utf8(all)), all);
-    EXPECT_EQ(To_Utf8("\x80 \x8A \x99 \xE9 \xFF"), "\u20AC \u0160 \u2122 \u00E9 \u00FF");
+    EXPECT_EQ(To_Utf8("\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\xE9\xFF"),
+              "\u20AC\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\u017D\u00E9"
+              "\u00FF");
+    EXPECT_EQ(
+        To_Utf8("\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F"),
+        "\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\u017E\u0178");
 }
 
 TEST(Code_Page, What_Has_No_Place_Or_Is_Malformed_Is_Refused_Or_Marked) {

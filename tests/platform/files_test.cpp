@@ -101,6 +101,11 @@ TEST(Files, What_Killed_And_Failed_Writes_Leave_Goes_But_Not_What_Is_Being_Writt
     EXPECT_TRUE(File_Exists("Kept.dat.7.tmp"));
     EXPECT_FALSE(File_Exists("Kept.dat.12345678901.tmp"));
     close(writer);
+    // Told by its own reason, not by that of clearing up behind it.
+    const std::string temporary = "Kept.dat." + std::to_string(getpid()) + ".tmp";
+    fs::create_directory(temporary);
+    EXPECT_EQ(Write_File("Kept.dat", Bytes{}), "File exists");
+    fs::remove(temporary);
     fs::create_directory("folder");
     EXPECT_EQ(Write_File("Kept.dat", Bytes{}), "");
     for (const char* path : {"none/new.dat", "folder"})

@@ -169,6 +169,7 @@ TEST_F(Protocol, A_Call_Is_Changed_Or_Drawn_As_Another_Shape) {
     Arc(device, 0, 0, 100, 50, 200, 25, 50, 0);   // a quarter, from the right to the top
     Arc(device, 0, 0, 100, 50, 50, 0, 200, 25);   // the other three
     Arc(device, 0, 0, 100, 50, 80, 35, 110, 45);  // one radial through both points
+    Set_Pen_Width(device, 2);
     Arc(device, 5, 5, 5, 50, 0, 0, 9, 9);
     TextOutA(device, 4, 5, "<\xE9&\x01>");
     EXPECT_EQ(Execute("svg Form9 a b.svg"), "ok\n");
@@ -176,12 +177,14 @@ TEST_F(Protocol, A_Call_Is_Changed_Or_Drawn_As_Another_Shape) {
     const std::string svg{std::istreambuf_iterator<char>(file), {}};
     for (const char* element :
          {"\nrectangle 30 20 10 10 | dashed 1 0,0,0 | solid 0,0,0\n",
-          "\narc 5 5 5 50 0 0 9 9 | dashed 1 0,0,0\ntext 4 5 <\u00E9&\x01> | 0,0,0\nok\n",
+          "\narc 5 5 5 50 0 0 9 9 | dashed 2 0,0,0\ntext 4 5 <\u00E9&\x01> | 0,0,0\nok\n",
           "<line x1=\"0\" y1=\"0\" x2=\"7\" y2=\"-3\" stroke=\"rgb(0,0,0)\" stroke-dasharray=",
           "<rect x=\"10\" y=\"10\" width=\"20\" height=\"10\"", " fill=\"rgb(0,0,0)\"/>",
           "d=\"M 100 25 A 50 25 0 0 0 50 0\"", "d=\"M 50 0 A 50 25 0 1 0 100 25\"",
           "<ellipse cx=\"50\" cy=\"25\" rx=\"50\" ry=\"25\"",
-          "<ellipse cx=\"5\" cy=\"27.5\" rx=\"0\" ry=\"22.5\"", ">&lt;\u00E9&amp; &gt;</text>"}) {
+          "<ellipse cx=\"5\" cy=\"27.5\" rx=\"0\" ry=\"22.5\" stroke=\"rgb(0,0,0)\" "
+          "stroke-width=\"2\"",
+          ">&lt;\u00E9&amp; &gt;</text>"}) {
         EXPECT_NE((Execute("picture Form9") + svg).find(element), std::string::npos) << element;
     }
     EXPECT_EQ(std::count(svg.begin(), svg.end(), '\n'), 12);

@@ -163,6 +163,12 @@ TEST(Taxi_Reader, Parking_Label_Wrong) {
     EXPECT_EQ(names,
               " 5|SE PARKING 12|SE PARKING 13|GATE Z 0|GATE Z 0|GATE Z 2|GATE Z 8192|GATE 7|"
               "PARKING 1|");
+    names.clear();
+    for (int code = 1; code <= 12; ++code)
+        names += Parking_Name(code, label) + '|';
+    EXPECT_EQ(names,
+              "PARKING 0|N PARKING 0|NE PARKING 0|E PARKING 0|SE PARKING 0|S PARKING 0|"
+              "SW PARKING 0|W PARKING 0|NW PARKING 0|GATE 0|DOCK 0|GATE A 0|");
 }
 
 /// A name at a time, as they stand in the file.

@@ -89,6 +89,9 @@ TEST(Simulator_Options, Command_Line_Misread) {
     for (const auto& [words, fault] : cases)
         EXPECT_EQ(Parse_Options(static_cast<int>(words.size()), words.data(), options = {}), fault);
     EXPECT_TRUE(options.version == 0xFADE0007 && options.fs98 && !options.refuse);
+    const char* const words[] = {"", "--refuse"};
+    EXPECT_EQ(Parse_Options(2, words, options = {}), "");
+    EXPECT_TRUE(options.refuse && !options.fs98 && !options.wait && !options.help);
 }
 
 }  // namespace

@@ -7,10 +7,12 @@
 #include <poll.h>
 #include <sys/wait.h>
 
+#include "app/settings.h"
 #include "platform/link.h"
 #include "platform/posix/link_endpoint.h"
 #include "platform/simulator/server.h"
 #include "platform/simulator/simulator.h"
+#include "scenery/database.h"
 #include "simlink/fsuipc.h"
 #include "tests/platform/scratch_folder.h"
 
@@ -177,6 +179,8 @@ TEST_F(Transport, Killed_Server_Blocks_The_Next_One) {
     EXPECT_EQ(Reply(), Gone);
     Start_Server([](auto) { return 8; });
     EXPECT_EQ(Reply(), 8U);
+    setenv("XDG_RUNTIME_DIR", "/another/session", 1);
+    EXPECT_EQ(FindWindowExA(Class), 0U);
 }
 
 TEST_F(Transport, Hostile_Client_Ends_The_Server_Or_Stands_In_For_Another_User) {
@@ -197,6 +201,39 @@ TEST_F(Transport, Hostile_Client_Ends_The_Server_Or_Stands_In_For_Another_User) 
     if (geteuid() != 0) GTEST_SKIP() << "only root can be another user";
     EXPECT_TRUE(Ended_Well(In_Child(
         [&] { return seteuid(65534) == 0 && FindWindowExA(Class) == 0 && is_dropped(4); })));
+}
+
+TEST_F(Transport, Program_Flies_Or_Ends_Otherwise_Than_Told) {
+    CloseHandle(block);
+    skerrand::Set_App_Path(scratch.Path());
+    skerrand::Airport_Info& airport = skerrand::airport_table.emplace_back();
+    airport.icao_id = "ZZZZ";
+    airport.runways = {{"9", "27", 45, 10, 45, 10.01}};
+    skerrand::settings.airport_count = 1;
+    ASSERT_EQ(skerrand::Save_Settings() + skerrand::Write_Airport_Table(), "");
+    const pid_t program = In_Child([&] {
+        return execl(SIMULATOR, "", "--folder", scratch.Path().c_str(), "--departure", "zzzz",
+                     "--altimeter", "1000", "--speed-up", "1000", "--die-after", "2", nullptr) == 0;
+    });
+    for (int i = 0; i < 200 && FindWindowExA(Class) == 0; ++i)
+        Sleep(50);
+    std::int32_t lat = 0, lon = 0, heading = 0;
+    std::uint16_t altimeter = 0;
+    EXPECT_TRUE(skerrand::Open_Link(6, result)) << result;
+    skerrand::Queue_Read(0x564, 4, &lat, result);
+    skerrand::Queue_Read(0x56C, 4, &lon, result);
+    skerrand::Queue_Read(0x580, 4, &heading, result);
+    skerrand::Queue_Read(0xEC6, 2, &altimeter, result);
+    EXPECT_TRUE(skerrand::Process_Queue(result));
+    // 100 seconds and more after the start, at 150 m/s to the east.
+    EXPECT_NEAR(lat * (90 / 10001750.0), 45, 0.1);
+    EXPECT_NEAR(lon * (360 / 4294967296.0), 12.5, 2.4);
+    EXPECT_NEAR(heading * (360 / 4294967296.0), 91, 2);
+    EXPECT_EQ(altimeter, 16000);
+    EXPECT_FALSE(skerrand::Queue_Read(0, 1, &lat, result) && skerrand::Process_Queue(result));
+    int status = 0;
+    EXPECT_TRUE(waitpid(program, &status, 0) == program && WEXITSTATUS(status) == 3) << status;
+    skerrand::Close_Link();
 }
 
 }  // namespace
