@@ -99,6 +99,10 @@ void windows::Watch_Keys() {
     RegisterRawInputDevices(&keyboard, 1, sizeof keyboard);
 }
 
+void windows::Forget_Keys() {
+    keys = {};
+}
+
 std::uint16_t GetAsyncKeyState(int code) {
     if (code < First_Key_Code || code > Last_Key_Code) return 0;
     if (code <= Last_Mouse_Code) return static_cast<std::uint16_t>(::GetAsyncKeyState(code));

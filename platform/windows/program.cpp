@@ -28,6 +28,7 @@ void Set_Up() {
 void Begin(Handler start) {
     Destroy_Windows();
     Reset_Life();
+    Forget_Keys();
     const Handler_Scope scope;
     start();
 }

@@ -30,7 +30,7 @@ bool Is_Topmost(HWND window) {
 }
 
 Icon Icon_In(HWND box) {
-    const LRESULT shown = SendMessageW(GetDlgItem(box, 20), STM_GETICON, 0, 0);
+    const LRESULT shown = SendMessageW(GetWindow(box, GW_CHILD), STM_GETICON, 0, 0);
     const auto is = [shown](LPCWSTR name) {
         return shown == reinterpret_cast<LRESULT>(LoadIconW(nullptr, name));
     };
@@ -120,8 +120,11 @@ void Click(Control_Ref control) {
 }
 
 void Double_Click(Control_Ref list, Spot spot) {
-    const int entry = spot == On_Selection ? Selected_Index(list) : Entry_Count(list);
-    Click_Entry(windows::Find_Live(list)->handle, entry, 2);
+    const HWND handle = windows::Find_Live(list)->handle;
+    if (spot == On_Selection) return Click_Entry(handle, Selected_Index(list), 2);
+    RECT box;
+    GetClientRect(handle, &box);
+    Click_At(handle, box.left + 5, box.bottom - 5, 2);
 }
 
 void Enter_Folder(Control_Ref folder_list, int index) {

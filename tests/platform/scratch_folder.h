@@ -28,7 +28,7 @@ class Scratch_Folder {
     static void Put(const std::string& native, const std::string& content) {
         const auto folder = std::filesystem::path(native).parent_path();
         if (!folder.empty()) std::filesystem::create_directories(folder);
-        std::ofstream(native, std::ios::binary) << content;
+        std::ofstream(std::filesystem::path(native), std::ios::binary) << content;
     }
 
   private:

@@ -16,6 +16,7 @@ export WINEPREFIX=$(dirname "$bin")/wine-screen
 openbox --sm-disable > /dev/null 2>&1 &
 manager=$!
 programs=$(mktemp -d)
+export ON_OWN_SCREEN=yes cups printed
 trap 'wineserver -k; kill $manager; end_printing; rm -rf "$programs"' EXIT
 for program in "$bin"/*.exe; do
     name=$programs/$(basename "$program" .exe)
