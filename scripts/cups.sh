@@ -20,6 +20,7 @@ begin_printing() {
     chmod 755 "$cups"
     mkdir -p "$cups"/{root/ppd,spool,cache,state,log,tmp,home} || return 1
     printed=$cups/printed.pdf
+    chmod 1777 "$cups/tmp" # filters of PostScript write there under a name of their own
     export HOME=$cups/home CUPS_SERVERROOT=$cups/root CUPS_SERVER=$cups/socket
     unset LPDEST PRINTER
     cat > "$cups/root/cups-files.conf" << END

@@ -2,6 +2,9 @@
 #include <cstdio>
 #include <optional>
 #include <string_view>
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 #include "tools/moved_airports.h"
 #include "tools/world_folder.h"
@@ -110,14 +113,24 @@ int Fail(const std::string& fault, int status) {
     return status;
 }
 
+/// This program's own file: found by its name alone it does not learn that from the command line.
+fs::path Self([[maybe_unused]] const char* name) {
+#ifdef _WIN32
+    wchar_t self[MAX_PATH] = L"";
+    GetModuleFileNameW(nullptr, self, MAX_PATH);
+    return self;
+#else
+    std::error_code unknown;
+    const fs::path self = fs::read_symlink("/proc/self/exe", unknown);
+    return unknown ? fs::path(name) : self;
+#endif
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     Options options;
-    // Found by its name alone the program does not learn its folder from the command line.
-    std::error_code unknown;
-    const fs::path self = fs::read_symlink("/proc/self/exe", unknown);
-    options.data = (unknown ? fs::path(argv[0]) : self).parent_path() / "data";
+    options.data = Self(argv[0]).parent_path() / "data";
     std::string fault = Parse_Options(argc, argv, options);
     if (!fault.empty()) return Fail(fault + "\nmake_world --help tells more.", 2);
     if (options.help) {

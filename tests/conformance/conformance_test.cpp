@@ -359,7 +359,8 @@ TEST_F(Conformance, A_Folder_List_Moves_Only_To_Folders_That_Exist_And_That_Can_
     Set_Folder_Path(Dir1, "/no such folder/");
     EXPECT_EQ(Folder_Path(Dir1), working_folder);
     Set_Folder_Path(Dir1, "/");
-    EXPECT_EQ(Folder_Path(Dir1), "/");
+    const std::string root = Folder_Path(Dir1);
+    EXPECT_TRUE(root == "/" || root == working_folder.substr(0, 3)) << root;
     EXPECT_GT(Entry_Count(Dir1), 0);
 
     const auto folder = std::filesystem::absolute("conformance_folders");

@@ -2,14 +2,16 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 
 /// A fresh folder that is the working folder for as long as the object lives.
 class Scratch_Folder {
   public:
     Scratch_Folder() : old_(std::filesystem::current_path()) {
-        std::string pattern = (std::filesystem::temp_directory_path() / "skerrand_XXXXXX").string();
-        if (mkdtemp(pattern.data()) != nullptr) path_ = pattern;
+        const std::string name = "skerrand_" + std::to_string(std::random_device()());
+        path_ = (std::filesystem::temp_directory_path() / name).string();
+        std::filesystem::create_directory(path_);
         std::filesystem::current_path(path_);
     }
     Scratch_Folder(const Scratch_Folder&) = delete;
@@ -26,7 +28,7 @@ class Scratch_Folder {
     static void Put(const std::string& native, const std::string& content) {
         const auto folder = std::filesystem::path(native).parent_path();
         if (!folder.empty()) std::filesystem::create_directories(folder);
-        std::ofstream(native, std::ios::binary) << content;
+        std::ofstream(std::filesystem::path(native), std::ios::binary) << content;
     }
 
   private:

@@ -1,0 +1,145 @@
+#include "platform/windows/builder.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "platform/windows/canvas.h"
+#include "platform/windows/controls.h"
+#include "platform/windows/entry_combo.h"
+#include "platform/windows/folder_list.h"
+#include "platform/windows/measures.h"
+#include "platform/windows/text.h"
+#include "platform/windows/timers.h"
+
+namespace platform::windows {
+
+namespace {
+
+/// Class and style of a kind's native window.
+struct Native_Kind {
+    const wchar_t* class_name;
+    DWORD style;
+    DWORD extended_style = 0;
+};
+
+Native_Kind Text_Kind(const Control& row) {
+    DWORD style = WS_TABSTOP;
+    style |= row.multi_line ? ES_MULTILINE | WS_VSCROLL : ES_AUTOHSCROLL;
+    if (row.read_only) style |= ES_READONLY;
+    if (row.centred) style |= ES_CENTER;
+    return {L"EDIT", style, WS_EX_CLIENTEDGE};
+}
+
+/// A label breaks its caption into lines where it is high enough for two.
+Native_Kind Label_Kind(const Live_Control& control) {
+    const int line = Text_Extent(control.font != nullptr ? control.font : Default_Font(), L"X").cy;
+    const bool has_lines = control.place.bottom - control.place.top >= 2 * line;
+    return {L"STATIC", SS_NOPREFIX | (has_lines ? DWORD{SS_LEFT} : DWORD{SS_LEFTNOWORDWRAP})};
+}
+
+Native_Kind Kind_Of(const Live_Control& control) {
+    constexpr DWORD list_style = WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
+    constexpr DWORD combo_style = WS_TABSTOP | WS_VSCROLL;
+    switch (control.row->kind) {
+        case Control_Kind::Frame:
+            // It paints nothing but its edge: the window shows through it.
+            return {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT};
+        case Control_Kind::Label:
+            return Label_Kind(control);
+        case Control_Kind::Button:
+            return {L"BUTTON", WS_TABSTOP | BS_PUSHBUTTON};
+        case Control_Kind::Text:
+            return Text_Kind(*control.row);
+        case Control_Kind::Combo:
+            return {L"COMBOBOX", combo_style | CBS_DROPDOWN | CBS_AUTOHSCROLL};
+        case Control_Kind::Check:
+            return {L"BUTTON", WS_TABSTOP | BS_AUTOCHECKBOX};
+        case Control_Kind::Option:
+            return {L"BUTTON", WS_TABSTOP | BS_AUTORADIOBUTTON};
+        case Control_Kind::Progress:
+            return {PROGRESS_CLASSW, 0};
+        case Control_Kind::Drive:
+            return {L"COMBOBOX", combo_style | CBS_DROPDOWNLIST};
+        case Control_Kind::List:
+        case Control_Kind::Folder:
+            return {L"LISTBOX", list_style, WS_EX_CLIENTEDGE};
+        default:
+            return {nullptr, 0};
+    }
+}
+
+/// In pixels of the client area, also inside a frame.
+RECT Place_Of(const Live_Window& window, const Control& row) {
+    Box at = row.at;
+    for (const Live_Control& control : window.controls) {
+        if (control.row->kind == Control_Kind::Frame &&
+            std::string_view(control.row->name) == row.in) {
+            at.left += control.row->at.left;
+            at.top += control.row->at.top;
+        }
+    }
+    return To_Pixels(at);
+}
+
+void Build_Control(Live_Control& control, bool starts_group) {
+    const Native_Kind kind = Kind_Of(control);
+    if (kind.class_name == nullptr) return;
+    const Control& row = *control.row;
+    const Live_Window& window = *control.window;
+    const RECT& place = control.place;
+    const auto id = First_Id + (&control - window.controls.data());
+    control.transparent = row.transparent;
+    control.handle = CreateWindowExW(
+        kind.extended_style, kind.class_name, L"",
+        kind.style | WS_CHILD | WS_VISIBLE | (starts_group ? DWORD{WS_GROUP} : 0), place.left,
+        place.top, place.right - place.left, place.bottom - place.top, window.handle,
+        reinterpret_cast<HMENU>(id), GetModuleHandleW(nullptr), nullptr);
+    const HFONT font = control.font != nullptr ? control.font : Default_Font();
+    SendMessageW(control.handle, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    if (row.kind == Control_Kind::Combo) Set_Up_Combo(control);
+    if (row.kind == Control_Kind::Drive) Fill_Drives(control);
+    if (row.kind == Control_Kind::Folder) Set_Up_Folder_List(control);
+    Show_First_Caption(control);
+    EnableWindow(control.handle, row.enabled);
+}
+
+/// The numbered rows go first, then the others by the table.
+std::vector<Live_Control*> Tab_Order(Live_Window& window) {
+    std::vector<Live_Control*> order;
+    for (Live_Control& control : window.controls)
+        order.push_back(&control);
+    std::stable_sort(order.begin(), order.end(), [](const Live_Control* a, const Live_Control* b) {
+        // As an unsigned number -1 comes behind all others.
+        return static_cast<unsigned>(a->row->tab_index) < static_cast<unsigned>(b->row->tab_index);
+    });
+    return order;
+}
+
+}  // namespace
+
+void Build_Controls(Live_Window& window) {
+    bool in_options = false;
+    for (Live_Control* control : Tab_Order(window)) {
+        const Control& row = *control->row;
+        control->place = Place_Of(window, row);
+        control->font = Make_Font(row.font);
+        if (row.kind == Control_Kind::Timer) Begin_Timer(*control);
+        const bool is_option = row.kind == Control_Kind::Option;
+        Build_Control(*control, !is_option || !in_options);
+        in_options = is_option;
+    }
+}
+
+HBRUSH Back_Brush(Live_Window& window, HWND handle, HDC dc) {
+    static const HBRUSH grey = CreateSolidBrush(Native_Colour(Window{}.back_colour));
+    const Live_Control* control = Control_Of_Id(window, GetDlgCtrlID(handle));
+    if (control == nullptr || control->row->kind == Control_Kind::Text) return nullptr;
+    SetBkMode(dc, TRANSPARENT);
+    if (control->row->kind != Control_Kind::Label) return window.back_brush;
+    SetTextColor(dc, Native_Colour(control->row->colour));
+    if (!control->transparent) return grey;
+    Paint_Behind(*control, dc);
+    return static_cast<HBRUSH>(GetStockObject(NULL_BRUSH));
+}
+
+}  // namespace platform::windows

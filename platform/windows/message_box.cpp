@@ -1,0 +1,63 @@
+#include "platform/message_box.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "platform/windows/handlers.h"
+#include "platform/windows/live.h"
+#include "platform/windows/text.h"
+#include "platform/windows/timers.h"
+
+namespace platform {
+
+namespace {
+
+UINT Native_Icon(Icon icon) {
+    switch (icon) {
+        case Icon::Information:
+            return MB_ICONINFORMATION;
+        case Icon::Exclamation:
+            return MB_ICONEXCLAMATION;
+        default:
+            return MB_ICONERROR;
+    }
+}
+
+/// The window that the box belongs to: the active one, else the one shown last.
+HWND Owner() {
+    HWND owner = nullptr;
+    const HWND active = GetActiveWindow();
+    for (const auto& window : windows::Loaded_Windows()) {
+        if (!IsWindowVisible(window->handle) || IsIconic(window->handle)) continue;
+        if (window->handle == active) return active;
+        owner = window->handle;
+    }
+    return owner;
+}
+
+/// The box disables its owner; the other windows take no input either while it stands.
+void Set_Input(bool enabled) {
+    for (const auto& window : windows::Loaded_Windows())
+        EnableWindow(window->handle, enabled && window->takes_input);
+}
+
+}  // namespace
+
+void Message_Box(std::string_view text, Icon icon, std::string_view title) {
+    windows::Show_Drawings();
+    const auto& loaded = windows::Loaded_Windows();
+    const bool is_topmost = std::any_of(loaded.begin(), loaded.end(),
+                                        [](const auto& window) { return window->is_topmost; });
+    const UINT style =
+        MB_OK | MB_SETFOREGROUND | Native_Icon(icon) | (is_topmost ? MB_TOPMOST : 0U);
+    {
+        const windows::Box_Scope scope;
+        const HWND owner = Owner();
+        Set_Input(false);
+        MessageBoxW(owner, windows::To_Wide(text).c_str(), windows::To_Wide(title).c_str(), style);
+        Set_Input(true);
+    }
+    windows::Drop_Due_Ticks();
+}
+
+}  // namespace platform

@@ -1,0 +1,228 @@
+#include <gtest/gtest.h>
+#include <utility>
+
+#include "platform/windows/frame.h"
+#include "platform/windows/handlers.h"
+#include "platform/windows/live.h"
+#include "platform/windows/program.h"
+#include "platform/windows/text.h"
+#include "tests/conformance/driver.h"
+
+// The user's hand are the system's own mouse and keyboard, so that what the system keeps from a
+// disabled window stays kept from it.
+namespace driver {
+
+namespace {
+
+using namespace platform;
+using windows::Live_Control;
+
+std::vector<Message> messages;
+
+std::string Text_In(HWND window) {
+    wchar_t text[1024];
+    const int length = GetWindowTextW(window, text, 1024);
+    return windows::From_Wide_Lossy({text, static_cast<std::size_t>(length)});
+}
+
+bool Is_Topmost(HWND window) {
+    return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+}
+
+Icon Icon_In(HWND box) {
+    const LRESULT shown = SendMessageW(GetWindow(box, GW_CHILD), STM_GETICON, 0, 0);
+    const auto is = [shown](LPCWSTR name) {
+        return shown == reinterpret_cast<LRESULT>(LoadIconW(nullptr, name));
+    };
+    if (is(MAKEINTRESOURCEW(32516))) return Icon::Information;
+    return is(MAKEINTRESOURCEW(32515)) ? Icon::Exclamation : Icon::Critical;
+}
+
+/// Answers a message box that has stood for long enough, as a user who reads it would.
+void CALLBACK Answer(HWND, UINT, UINT_PTR, DWORD) {
+    static HWND known = nullptr;
+    static long long since = 0;
+    DWORD process = 0;
+    const HWND box = FindWindowW(L"#32770", nullptr);
+    GetWindowThreadProcessId(box, &process);
+    if (box == nullptr || process != ::GetCurrentProcessId()) return;
+    if (std::exchange(known, box) != box) since = Clock();
+    if (Clock() - since < 300) return;
+    constexpr int Text_Id = 0xFFFF;
+    messages.push_back(
+        {Icon_In(box), Text_In(box), Text_In(GetDlgItem(box, Text_Id)), Is_Topmost(box)});
+    known = nullptr;
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+}
+
+void Press_At(HWND window, int x, int y, DWORD down, DWORD up, int times = 1) {
+    POINT place{x, y};
+    ClientToScreen(window, &place);
+    SetCursorPos(place.x, place.y);
+    for (int i = 0; i < times; ++i) {
+        mouse_event(down, 0, 0, 0, 0);
+        mouse_event(up, 0, 0, 0, 0);
+    }
+    Advance(30);
+}
+
+void Click_At(HWND window, int x, int y, int times = 1) {
+    Press_At(window, x, y, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, times);
+}
+
+void Click_Entry(HWND list, int index, int times = 1) {
+    RECT place;
+    SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(index),
+                 reinterpret_cast<LPARAM>(&place));
+    Click_At(list, place.left + 5, (place.top + place.bottom) / 2, times);
+}
+
+void Strike(WORD key) {
+    for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}})
+        keybd_event(static_cast<BYTE>(key), 0, flags, 0);
+    Advance(20);
+}
+
+}  // namespace
+
+void Prepare(int&, char**) {
+    if (GTEST_FLAG_GET(list_tests)) return;
+    windows::Set_Up();
+    SetTimer(nullptr, 0, 10, Answer);
+}
+
+void Start(Handler start) {
+    messages.clear();
+    windows::Begin(start);
+    Advance(50);
+}
+
+bool Running() {
+    return !windows::Is_Ending();
+}
+
+void Advance(int milliseconds) {
+    const long long end = Clock() + milliseconds;
+    for (long long now = Clock(); Running() && now < end; now = Clock())
+        windows::Serve(static_cast<unsigned long>(end - now));
+}
+
+long long Clock() {
+    LARGE_INTEGER count, frequency;
+    QueryPerformanceCounter(&count);
+    QueryPerformanceFrequency(&frequency);
+    return count.QuadPart / (frequency.QuadPart / 1000);
+}
+
+void Click(Control_Ref control) {
+    const RECT& place = windows::Find_Live(control)->place;
+    Click_At(windows::Find_Window(*control.window)->handle, place.left + 8, place.top + 8);
+}
+
+void Double_Click(Control_Ref list, Spot spot) {
+    const HWND handle = windows::Find_Live(list)->handle;
+    if (spot == On_Selection) return Click_Entry(handle, Selected_Index(list), 2);
+    RECT box;
+    GetClientRect(handle, &box);
+    Click_At(handle, box.left + 5, box.bottom - 5, 2);
+}
+
+void Enter_Folder(Control_Ref folder_list, int index) {
+    Click_Entry(windows::Find_Live(folder_list)->handle, index + 1, 2);  // below ".."
+    Advance(500);
+}
+
+void Pick(Control_Ref list_or_combo, int index) {
+    const Live_Control& live = *windows::Find_Live(list_or_combo);
+    if (live.list == nullptr) return Click_Entry(live.handle, index);
+    RECT box;
+    GetClientRect(live.handle, &box);
+    Click_At(live.handle, box.right - 5, box.bottom / 2);
+    Click_Entry(live.list, index);
+}
+
+void Type(Control_Ref combo, const std::string& text) {
+    const HWND edit = GetWindow(windows::Find_Live(combo)->handle, GW_CHILD);
+    Click_At(edit, 8, 5);
+    SendMessageW(edit, EM_SETSEL, 0, -1);
+    for (const wchar_t character : windows::To_Wide(text)) {
+        PostMessageW(edit, WM_CHAR, character, 0);
+        Advance(20);
+    }
+    Strike(VK_ESCAPE);
+    Strike(VK_TAB);
+}
+
+void Press(const Window& window, Mouse_Button button, int x, int y) {
+    constexpr std::pair<DWORD, DWORD> events[] = {{MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP},
+                                                  {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP},
+                                                  {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP}};
+    const auto [down, up] = events[static_cast<int>(button)];
+    Press_At(windows::Find_Window(window)->handle, x, y, down, up);
+}
+
+void Resize(const Window& window, int client_width, int client_height) {
+    const HWND handle = windows::Find_Window(window)->handle;
+    if ((GetWindowLongW(handle, GWL_STYLE) & WS_THICKFRAME) == 0) return;
+    RECT client, frame;
+    GetClientRect(handle, &client);
+    GetWindowRect(handle, &frame);
+    ::SetWindowPos(handle, nullptr, 0, 0, frame.right - frame.left + client_width - client.right,
+                   frame.bottom - frame.top + client_height - client.bottom,
+                   SWP_NOMOVE | SWP_NOZORDER);
+    Advance(50);
+}
+
+void Do(Deed deed, const Window& window) {
+    Advance(300);  // The window manager's news of what was done before may still be on its way.
+    constexpr WPARAM commands[] = {SC_MINIMIZE, SC_MAXIMIZE, SC_RESTORE, SC_CLOSE};
+    const HWND handle = windows::Find_Window(window)->handle;
+    if (deed == Maximise && (GetWindowLongW(handle, GWL_STYLE) & WS_MAXIMIZEBOX) == 0) return;
+    PostMessageW(handle, WM_SYSCOMMAND, commands[deed], 0);
+    Advance(200);
+}
+
+void Key(int code, bool down) {
+    const UINT scan = MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC);
+    keybd_event(static_cast<BYTE>(code), static_cast<BYTE>(scan), down ? 0 : DWORD{KEYEVENTF_KEYUP},
+                0);
+    Advance(30);
+}
+
+bool Has_Screen() {
+    return true;
+}
+
+void Press_Key(const Window& window, Stroke key) {
+    SetForegroundWindow(windows::Find_Window(window)->handle);
+    Strike(key == Tab ? VK_TAB : VK_RETURN);
+}
+
+std::string Focus(const Window& window) {
+    for (const Live_Control& control : windows::Find_Window(window)->controls) {
+        if (control.handle != nullptr && control.handle == GetFocus()) return control.row->name;
+    }
+    return "";
+}
+
+Frame Frame_Of(const Window& window) {
+    const HWND handle = windows::Find_Window(window)->handle;
+    RECT frame;
+    GetWindowRect(handle, &frame);
+    return {frame.left, frame.top, Is_Topmost(handle)};
+}
+
+std::vector<Message> Take_Messages() {
+    return std::exchange(messages, {});
+}
+
+Colour Pixel(const Window& window, int x, int y) {
+    Repaint(window);
+    const HWND handle = windows::Find_Window(window)->handle;
+    const HDC dc = GetDC(handle);
+    const COLORREF colour = GetPixel(dc, x, y);
+    ReleaseDC(handle, dc);
+    return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
+}
+
+}  // namespace driver
