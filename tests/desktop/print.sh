@@ -97,8 +97,9 @@ expect_failure stop_service
 
 # Without a printer the sheet is that of the user's country, with margins of 5 mm.
 LC_ALL=C expect_sheet A4 600 4724 6783
-printf 'LC_PAPER\nheight 279\nwidth 216\nEND LC_PAPER\n' > letter
-localedef -c -i letter ./us_letter 2> /dev/null
+# The locale that every system has, with 279 by 216 mm in the place of 297 by 210.
+mkdir us_letter
+LC_ALL=C sed 's/\x29\x01\x00\x00\xd2/\x17\x01\x00\x00\xd8/' /usr/lib/locale/C.utf8/LC_PAPER > us_letter/LC_PAPER
 LOCPATH=$PWD LC_PAPER=us_letter LC_ALL='' expect_sheet Letter 600 4866 6366
 serve || fail "no printing service"
 
