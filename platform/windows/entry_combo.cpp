@@ -55,8 +55,15 @@ void Place_List(const Live_Control& combo) {
                    SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
 
+/// The window owns its list only while that is open: under Wine a window that owns another one
+/// cannot be put on top of all.
+void Own_List(const Live_Control& combo, HWND owner) {
+    SetWindowLongPtrW(combo.list, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+}
+
 void Open_List(Live_Control& combo) {
     open_combo = &combo;
+    Own_List(combo, combo.Holder().handle);
     SendMessageW(combo.list, LB_SETCOUNT, combo.matches.size(), 0);
     const auto picked = std::find(combo.matches.begin(), combo.matches.end(),
                                   static_cast<std::size_t>(combo.selected));
@@ -198,6 +205,7 @@ void Set_Up_Combo(Live_Control& combo) {
         WS_EX_TOOLWINDOW | WS_EX_TOPMOST | WS_EX_NOACTIVATE, L"LISTBOX", L"",
         WS_POPUP | WS_BORDER | WS_VSCROLL | LBS_NODATA | LBS_OWNERDRAWFIXED | LBS_NOINTEGRALHEIGHT,
         0, 0, 0, 0, combo.Holder().handle, nullptr, GetModuleHandleW(nullptr), nullptr);
+    Own_List(combo, nullptr);
     const LONG height = Text_Extent(Default_Font(), L"X").cy + 1;
     SendMessageW(combo.list, LB_SETITEMHEIGHT, 0, height);
     SetWindowSubclass(combo.handle, Box_Procedure, 0, reference);
@@ -238,6 +246,7 @@ void Close_List(Live_Control& combo) {
     if (!Is_Open(combo)) return;
     open_combo = nullptr;
     ShowWindow(combo.list, SW_HIDE);
+    Own_List(combo, nullptr);
 }
 
 void Draw_Entry(const Live_Window& window, const DRAWITEMSTRUCT& item) {

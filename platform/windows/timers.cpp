@@ -10,7 +10,7 @@ namespace {
 /// A timer of fewer milliseconds is one that asks again and again. Its interval is stretched, so
 /// that it leaves the processor to others; nobody holds a key for less than that.
 constexpr int Shortest_Interval = 5;
-constexpr int Asking_Interval = 10;
+constexpr int Asking_Interval = 20;
 
 /// The system wakes a program at every 64th of a second, if nobody asks for better. It is asked
 /// while a timer runs that needs it, for it costs power.
