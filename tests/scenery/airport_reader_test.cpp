@@ -122,7 +122,7 @@ TEST(Taxi_Reader, Lists_Read_Or_Replaced_Wrongly) {
     const Airport_Info airport =
         Read(Join({Position(5000875, 333), Runway({.designator = 1}),
                    Taxi({points, parkings, paths, Longs({0, 12}), Longs({-5, 20}),
-                         Names({"X", "A"}), List(12, {Point(1, 5, 5)})}),
+                         List(8, {Name("X"), Name("A")}), List(12, {Point(1, 5, 5)})}),
                    Taxi({List(12, {Point(3, 0, -1852)}), Longs({1, 16, 0, 0, 0, 0})})}));
     // The second block's list has taken the place of the first; what is 0 stays to the bit.
     EXPECT_EQ(airport.taxi_points, (std::vector<Taxi_Point>{{3, 44.983333, airport.lon}}));
@@ -136,7 +136,7 @@ TEST(Taxi_Reader, Lists_Read_Or_Replaced_Wrongly) {
 
 TEST(Taxi_Reader, Block_Ends_Too_Early_Or_Too_Late) {
     const Bytes paths = List(32, {Path(0, 0, 0, 0), Path(1, 0, 0, 0)});
-    const Bytes names = Names({"A"});
+    const Bytes names = List(8, {Name("A")});
     const std::tuple<const char*, Bytes, const char*> cases[] = {
         {"paths behind the names", Taxi({names, paths}), "END"},
         {"no names", Taxi({paths}), "0|0|END"},
