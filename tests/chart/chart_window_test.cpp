@@ -12,7 +12,8 @@
 #include "selection/picks.h"
 #include "simlink/live_poll.h"
 
-namespace skerrand {
+using namespace skerrand;
+
 namespace {
 
 /// An answer without its end.
@@ -137,4 +138,3 @@ TEST_F(Chart_With_Printer, ATimerRunsInAStateWhereItShouldNot) {
 }
 
 }  // namespace
-}  // namespace skerrand

@@ -1,16 +1,6 @@
 // The measures of the windows' tables were made for one font; whatever stands in for it has to fit.
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QFontMetrics>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QMouseEvent>
-#include <QScreen>
-#include <QTimer>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 #include "app/form1.h"
@@ -26,7 +16,7 @@
 #include "platform/message_box.h"
 #include "selection/form3.h"
 
-namespace skerrand {
+using namespace skerrand;
 
 namespace {
 
@@ -142,5 +132,3 @@ TEST(Messages, A_Message_Stands_In_The_Way_Cuts_Its_Title_Or_Mixes_The_Separator
 }
 
 }  // namespace
-
-}  // namespace skerrand

@@ -2,13 +2,12 @@
 
 #include "platform/printer.h"
 
-#include <QDir>
-#include <QTemporaryDir>
+#include <QtCore>
 #include <gtest/gtest.h>
 
 #include "tests/conformance/driver.h"
 
-namespace platform {
+using namespace platform;
 
 namespace {
 
@@ -59,5 +58,3 @@ TEST_F(Printing, A_File_That_Cannot_Be_Written_Must_Not_Pass_For_A_Print) {
 }
 
 }  // namespace
-
-}  // namespace platform

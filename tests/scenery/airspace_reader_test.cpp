@@ -7,7 +7,8 @@
 #include "selection/picks.h"
 #include "tests/scenery/bgl_builder.h"
 
-namespace skerrand {
+using namespace skerrand;
+
 namespace {
 
 using namespace bgl;
@@ -121,4 +122,3 @@ TEST(Airspace_Reader, OverlappingObjectsTakeQuadraticTime) {
 }
 
 }  // namespace
-}  // namespace skerrand

@@ -8,7 +8,8 @@
 #include "scenery/magnetic.h"
 #include "tests/scenery/bgl_builder.h"
 
-namespace skerrand {
+using namespace skerrand;
+
 namespace {
 
 using namespace bgl;
@@ -187,4 +188,3 @@ TEST(Magnetic, BadGridSpoilsTheTableOrTheMemory) {
 }
 
 }  // namespace
-}  // namespace skerrand

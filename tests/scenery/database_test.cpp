@@ -6,7 +6,8 @@
 
 #include "tests/scenery/bgl_builder.h"
 
-namespace skerrand {
+using namespace skerrand;
+
 namespace {
 
 using bgl::Bytes, bgl::Join, bgl::Longs, bgl::Prefix;
@@ -114,4 +115,3 @@ TEST(Database, TextTooLongForItsLengthShiftsTheFieldsBehind) {
 }
 
 }  // namespace
-}  // namespace skerrand
