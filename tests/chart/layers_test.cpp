@@ -11,11 +11,9 @@
 
 using namespace skerrand;
 
-namespace {
-
 using enum Boundary_Kind;
 
-std::string Drawn() {
+static std::string Drawn() {
     platform::Device_Context device;
     magnetic_table.fill(1821);  // 10 degrees east
     Draw_Chart({&device, 400, 400});
@@ -28,7 +26,7 @@ std::string Drawn() {
 
 /// The view reaches so many degrees from the equator's start, the middle at (200, 200): 0.01 make
 /// 20000 pixels a degree, 2 make 100.
-void Clear_Chart(double degrees, std::int16_t zoom) {
+static void Clear_Chart(double degrees, std::int16_t zoom) {
     chart_view = {-degrees, degrees, degrees, -degrees, {}, {}, zoom};
     current_airport = {};
     current_airspaces.clear();
@@ -96,7 +94,7 @@ TEST(Airport_Layers, PlaceOnTheViewsBoundIsDrawnOrABeamPointsTheWrongWay) {
               "line 191 298 200 200 | solid 1 255,255,0\ntext 200 200 110.3 Mhz | 0,0,0\n");
 }
 
-void Add(std::string_view label, std::vector<Boundary_Point> boundary) {
+static void Add(std::string_view label, std::vector<Boundary_Point> boundary) {
     current_airspaces.emplace_back().class_label = label;
     current_airspaces.back().boundary = std::move(boundary);
 }
@@ -178,5 +176,3 @@ TEST(Active_Runway, EqualLengthsAndOddTables) {
     EXPECT_EQ(active({{"", 300}, {"10", 200}}), "");
     EXPECT_EQ(active({{"", 0}, {"10", -5}}), "10");
 }
-
-}  // namespace

@@ -11,8 +11,6 @@
 
 using namespace platform;
 
-namespace {
-
 constexpr QRgb White = 0xFFFFFFFF;
 constexpr QRgb Black = 0xFF000000;
 constexpr QRgb Blue = 0xFF0000FF;
@@ -157,7 +155,7 @@ TEST(Drawing, No_Dash_Must_Crawl_With_The_Edge_That_Cuts_A_Line_And_No_Tab_Close
 }
 
 /// The arc of the ellipse in that box between two angles of the circle.
-void Draw_Arc(Page& page, const QRect& box, double from, double to) {
+static void Draw_Arc(Page& page, const QRect& box, double from, double to) {
     const auto far = [&](double t) {
         return box.center() + (1e6 * QPointF(std::cos(t), -std::sin(t))).toPoint();
     };
@@ -190,5 +188,3 @@ TEST(Drawing, A_Dashed_Figure_Must_Not_Vanish_Because_It_Is_Small) {
         EXPECT_GT(line.Drawn(), 0) << i;
     }
 }
-
-}  // namespace

@@ -13,13 +13,13 @@
 #include "platform/program.h"
 #include "tests/platform/scratch_folder.h"
 
-namespace {
-
 using namespace platform;
 using headless::Execute;
 using enum Control_Kind;
 
-void Click();
+static void Click() {
+    Message_Box("a\tb\r\nc\\d", Icon::Information, "\xE9");
+}
 
 constexpr Control controls[] = {
     {.name = "File1", .kind = Menu, .caption = "File"},
@@ -33,14 +33,10 @@ constexpr Control controls[] = {
     {.name = "Timer1", .kind = Timer, .interval = 1000},
 };
 
-constexpr Window Box = {"Form7", "", 1500, 1500, {}, Frame_Style::Dialog};
+constexpr Window Small = {"Form7", "", 1500, 1500, {}, Frame_Style::Dialog};
 constexpr Window Sample = {"Form9", "\x80 ok", 3008, 3007, controls, Frame_Style::Sizable};
 
-void Click() {
-    Message_Box("a\tb\r\nc\\d", Icon::Information, "\xE9");
-}
-
-void Expect(std::initializer_list<std::pair<const char*, const char*>> exchanges) {
+static void Expect(std::initializer_list<std::pair<const char*, const char*>> exchanges) {
     for (const auto& [command, answer] : exchanges)
         EXPECT_EQ(Execute(command), answer) << command;
 }
@@ -117,7 +113,7 @@ TEST_F(Protocol, Measures_And_Looks_Are_Not_Those_Of_The_Table) {
 TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
     Set_Enabled(Find_Control(Sample, "Frame1"), false);
     Set_Enabled(Find_Control(Sample, "Combo1"), false);
-    Show(Box);
+    Show(Small);
     Expect({{"click Form9.Check1", "error disabled\n"},
             {"pick Form9.Combo1 1", "error disabled\n"},
             {"type Form9.Combo1 x", "error disabled\n"},
@@ -206,10 +202,10 @@ TEST(Folder_List, Path_Is_Not_Whole_Or_Ends_With_A_Separator) {
         EXPECT_EQ(headless::Whole_Path(given), whole) << given;
 }
 
-std::string ticks;
-std::int64_t wait_at = -1;
+static std::string ticks;
+static std::int64_t wait_at = -1;
 
-void Note(char name) {
+static void Note(char name) {
     ticks += name + std::to_string(headless::Clock()) + " ";
     if (headless::Clock() == wait_at) Sleep(75);
 }
@@ -222,7 +218,7 @@ constexpr Control second_controls[] = {
 constexpr Window First = {"First", "", 1500, 1500, first_controls};
 constexpr Window Second = {"Second", "", 1500, 1500, second_controls};
 
-std::string Ticks(std::int64_t milliseconds) {
+static std::string Ticks(std::int64_t milliseconds) {
     ticks.clear();
     headless::Advance(milliseconds);
     return ticks + "at " + std::to_string(headless::Clock());
@@ -244,5 +240,3 @@ TEST(Timers, A_Wait_Of_The_Program_Lets_A_Timer_Tick_Twice_Or_Shortens_An_Advanc
     Ticks(100);
     EXPECT_EQ(headless::Clock(), 225);
 }
-
-}  // namespace

@@ -8,15 +8,13 @@
 
 using namespace skerrand;
 
-namespace {
-
 using namespace bgl;
 
 constexpr std::int32_t Lat_45 = 5000875;
 constexpr std::int32_t Lon_90 = 0x40000000;
 
 /// Reads the records as the block of an airport that ends with a record of an unknown type.
-Airport_Info Read(const Bytes& records, bool sound = true) {
+static Airport_Info Read(const Bytes& records, bool sound = true) {
     Load(Join({Longs({1, 0, 1, 0}), records, Longs({0x10007, 0})}));
     Airport_Info airport;
     EXPECT_EQ(Read_Airport(0, airport), sound);
@@ -107,7 +105,7 @@ TEST(Airport_Reader, Beam_At_The_Wrong_End_Or_Of_No_Runway) {
     }
 }
 
-std::string Names_Of(const std::vector<Taxi_Path>& paths) {
+static std::string Names_Of(const std::vector<Taxi_Path>& paths) {
     std::string names;
     for (const Taxi_Path& path : paths)
         names += path.name + '|';
@@ -183,5 +181,3 @@ TEST(Taxi_Reader, Chain_Of_Name_Numbers_Cut_Or_Looped) {
     Name_Taxiways(names, paths);
     EXPECT_EQ(Names_Of(paths), "B|1|B|07|3|B|-1||99999999999|0|10| 2|12|07| 2|-1||0|");
 }
-
-}  // namespace

@@ -10,12 +10,10 @@
 
 using namespace skerrand;
 
-namespace {
-
 using namespace bgl;
 
 /// An airspace round the place 45, 45 with its limits and, unless it is null, a frequency's text.
-Bytes Airspace(std::int32_t low, std::int32_t high, const char* facility) {
+static Bytes Airspace(std::int32_t low, std::int32_t high, const char* facility) {
     const Bytes bounds = Record(0x1000B, Longs({0, 0, 1 << 24, 1 << 30}));
     const Bytes start = Record(0x12002, Longs({0, 0, 0, 0, low, high}));
     const Bytes freq =
@@ -23,16 +21,16 @@ Bytes Airspace(std::int32_t low, std::int32_t high, const char* facility) {
     return Record(1, Join({Longs({5, 0}), bounds, start, freq}));
 }
 
-std::string Saved(const char* name, const Bytes& bytes) {
+static std::string Saved(const char* name, const Bytes& bytes) {
     const std::string path = testing::TempDir() + "/" + name;
     EXPECT_EQ(platform::Write_File(path, bytes), "");
     return path;
 }
 
-std::string progress;
+static std::string progress;
 
 /// Both airports stand at that place.
-Unread_Files Search(const std::vector<std::string>& files) {
+static Unread_Files Search(const std::vector<std::string>& files) {
     first_run = false;
     database_ready = true;
     for (Airport_Info* airport : {&departure_airport, &destination_airport})
@@ -170,5 +168,3 @@ TEST(Picks, EqualEntriesTakeTheFirstOrTheTableStays) {
         EXPECT_EQ(airport_table.capacity(), 0) << "the memory of a world";
     }
 }
-
-}  // namespace

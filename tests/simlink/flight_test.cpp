@@ -8,15 +8,13 @@
 
 using namespace simulator;
 
-namespace {
-
 using skerrand::Airport_Info;
 
 constexpr double Degree = std::numbers::pi / 180;
 constexpr double Metres = 111120;  // to the degree
 
 /// An airport whose longest runway has that heading and length; one beside it is damaged.
-Airport_Info Airport(double lat, double lon, double heading, double length) {
+static Airport_Info Airport(double lat, double lon, double heading, double length) {
     const double north = std::cos(heading * Degree) * length / 2 / Metres;
     const double east = std::sin(heading * Degree) * length / 2 / Metres / std::cos(lat * Degree);
     Airport_Info airport;
@@ -27,7 +25,7 @@ Airport_Info Airport(double lat, double lon, double heading, double length) {
 }
 
 /// By the haversines, unlike the code.
-double Distance(double lat_1, double lon_1, double lat_2, double lon_2) {
+static double Distance(double lat_1, double lon_1, double lat_2, double lon_2) {
     const double a = std::sin((lat_2 - lat_1) * Degree / 2),
                  b = std::sin((lon_2 - lon_1) * Degree / 2);
     const double h = a * a + std::cos(lat_1 * Degree) * std::cos(lat_2 * Degree) * b * b;
@@ -90,5 +88,3 @@ TEST(Simulator_Options, Command_Line_Misread) {
     EXPECT_EQ(Parse_Options(2, words, options = {}), "");
     EXPECT_TRUE(options.refuse && !options.fs98 && !options.wait && !options.help);
 }
-
-}  // namespace

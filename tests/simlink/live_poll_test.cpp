@@ -11,8 +11,6 @@
 
 using namespace skerrand;
 
-namespace {
-
 using platform::headless::Execute;
 
 TEST(Poll, RawValuesAreConvertedWrongly) {
@@ -54,5 +52,3 @@ TEST(Simulator, StateAreaIsReadOrWrittenOutsideOrOutOfPlace) {
     }
     Close_Link();
 }
-
-}  // namespace

@@ -19,8 +19,6 @@
 #include "simlink/fsuipc.h"
 #include "tests/platform/scratch_folder.h"
 
-namespace {
-
 using namespace platform;
 
 constexpr const char* Class = "UIPCMAIN";
@@ -29,18 +27,18 @@ constexpr std::uint32_t Timed_Out = 1000, Gone = 1000 + Error_Invalid_Window;
 
 /// Does `work` in a child that ends as in a crash.
 template <typename Work>
-pid_t In_Child(Work work) {
+static pid_t In_Child(Work work) {
     const pid_t child = fork();
     if (child == 0) _exit(work() ? 0 : 1);
     return child;
 }
 
-bool Ended_Well(pid_t child) {
+static bool Ended_Well(pid_t child) {
     int status = 1;
     return waitpid(child, &status, 0) == child && status == 0;
 }
 
-std::ptrdiff_t Open_Files(pid_t process) {
+static std::ptrdiff_t Open_Files(pid_t process) {
     return std::distance(
         std::filesystem::directory_iterator("/proc/" + std::to_string(process) + "/fd"), {});
 }
@@ -252,5 +250,3 @@ TEST_F(Transport, Program_Flies_Or_Ends_Otherwise_Than_Told) {
     EXPECT_TRUE(waitpid(program, &status, 0) == program && WEXITSTATUS(status) == 3) << status;
     skerrand::Close_Link();
 }
-
-}  // namespace
