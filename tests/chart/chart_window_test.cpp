@@ -12,16 +12,15 @@
 #include "selection/picks.h"
 #include "simlink/live_poll.h"
 
-namespace skerrand {
-namespace {
+using namespace skerrand;
 
 /// An answer without its end.
-std::string Ask(const std::string& command) {
+static std::string Ask(const std::string& command) {
     const std::string answer = platform::headless::Execute(command);
     return answer.substr(0, answer.rfind("ok\n"));
 }
 
-void Show_Chart() {
+static void Show_Chart() {
     using enum Boundary_Kind;
     Airport_Info& airport = departure_airport = {};
     airport.airport_name = "Nowhere";
@@ -91,24 +90,20 @@ TEST_F(Chart_With_Printer, PageDiffersFromThePictureBeyondFrameAndTitle) {
 }
 
 TEST_F(Chart_With_Printer, APreferenceSwitchesMoreOrLessThanItsOwn) {
-    const struct {
-        const char *box, *gone, *stays;
-        int zoom = 40;
-    } cases[] = {
-        {"Check1", "TWY", "192,192,192"},    {"Check2", "192,192,192", "GATE A 1"},
-        {"Check3", "255,255,0", "0,192,0"},  {"Check4", "dashed", "Nowhere", 9},
-        {"Check5", "128,64,64", "192,192"},  {"Check7", "110.3 Mhz", "255,255,0"},
-        {"Check8", "09L", "  91*"},          {"Check9", "91*", "09L"},
-        {"Check10", "Nowhere |", "0,192,0"},
-    };
-    for (const auto& c : cases) {
+    const std::tuple<std::string, const char*, const char*, int> cases[] = {
+        {"Check1", "TWY", "192,192,192", 40},   {"Check2", "192,192,192", "GATE A 1", 40},
+        {"Check3", "255,255,0", "0,192,0", 40}, {"Check4", "dashed", "Nowhere", 9},
+        {"Check5", "128,64,64", "192,192", 40}, {"Check7", "110.3 Mhz", "255,255,0", 40},
+        {"Check8", "09L", "  91*", 40},         {"Check9", "91*", "09L", 40},
+        {"Check10", "Nowhere |", "0,192,0", 40}};
+    for (const auto& [box, gone, stays, zoom] : cases) {
         for (const int clicks : {0, 1, 2}) {
             Ask("click Form4.pref1");
-            if (clicks > 0) Ask(std::string("click Form5.") + c.box);
+            if (clicks > 0) Ask("click Form5." + box);
             Ask("close Form5");
-            for (const std::string& picture : {Picture(c.zoom), Printed()}) {
-                EXPECT_EQ(picture.find(c.gone) == picture.npos, clicks == 1) << c.box;
-                EXPECT_NE(picture.find(c.stays), picture.npos) << c.box;
+            for (const std::string& picture : {Picture(zoom), Printed()}) {
+                EXPECT_EQ(picture.find(gone) == picture.npos, clicks == 1) << box;
+                EXPECT_NE(picture.find(stays), picture.npos) << box;
             }
         }
     }
@@ -135,6 +130,3 @@ TEST_F(Chart_With_Printer, ATimerRunsInAStateWhereItShouldNot) {
         EXPECT_EQ(timers(resumed), live) << resumed;
     }
 }
-
-}  // namespace
-}  // namespace skerrand

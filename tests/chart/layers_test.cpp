@@ -1,5 +1,6 @@
-// Each layer of the chart by the calls that it draws with, in 400 by 400 pixels.
+// The view, and each layer of the chart by the calls that it draws with, in 400 by 400 pixels.
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 #include "chart/current_chart.h"
@@ -8,12 +9,11 @@
 #include "scenery/magnetic.h"
 #include "selection/airspace_search.h"
 
-namespace skerrand {
-namespace {
+using namespace skerrand;
 
 using enum Boundary_Kind;
 
-std::string Drawn() {
+static std::string Drawn() {
     platform::Device_Context device;
     magnetic_table.fill(1821);  // 10 degrees east
     Draw_Chart({&device, 400, 400});
@@ -26,7 +26,7 @@ std::string Drawn() {
 
 /// The view reaches so many degrees from the equator's start, the middle at (200, 200): 0.01 make
 /// 20000 pixels a degree, 2 make 100.
-void Clear_Chart(double degrees, std::int16_t zoom) {
+static void Clear_Chart(double degrees, std::int16_t zoom) {
     chart_view = {-degrees, degrees, degrees, -degrees, {}, {}, zoom};
     current_airport = {};
     current_airspaces.clear();
@@ -94,7 +94,7 @@ TEST(Airport_Layers, PlaceOnTheViewsBoundIsDrawnOrABeamPointsTheWrongWay) {
               "line 191 298 200 200 | solid 1 255,255,0\ntext 200 200 110.3 Mhz | 0,0,0\n");
 }
 
-void Add(std::string_view label, std::vector<Boundary_Point> boundary) {
+static void Add(std::string_view label, std::vector<Boundary_Point> boundary) {
     current_airspaces.emplace_back().class_label = label;
     current_airspaces.back().boundary = std::move(boundary);
 }
@@ -131,5 +131,48 @@ TEST(Airspace_Layer, OneAirspaceDrawsWithThePlaceOfAnother) {
               "arc 158 -41 300 100 200 200 300 100 | dashed 1 255,0,255\n");
 }
 
-}  // namespace
-}  // namespace skerrand
+/// Eight pixels a degree, so that halves are exact.
+const Chart_Target target{nullptr, 160, 80};
+const Chart_View start{-10, 50, 10, 40, {}, {}, 30};
+
+TEST(View, ProjectionRoundsHalvesAwayFromEven) {
+    chart_view = start;
+    EXPECT_EQ(Project(target, 40, 10), (Pixel_Point{160, 80}));
+    EXPECT_EQ(Project(target, 49.6875, -9.6875), (Pixel_Point{2, 2}));
+    EXPECT_EQ(Project(target, 49.5625, -9.5625), (Pixel_Point{4, 4}));
+    EXPECT_EQ(Project(target, 1e300, 1e300), (Pixel_Point{INT32_MAX, INT32_MIN}));
+}
+
+TEST(View, ZoomDriftsOrPassesItsEnds) {
+    chart_view = start;
+    for (int i = 0; i < 8; ++i)
+        Zoom_In();
+    EXPECT_NEAR(chart_view.view_right - chart_view.view_left, 20 * std::pow(0.8, 8), 1e-12);
+    for (int i = 0; i < 8; ++i)
+        Zoom_Out();
+    EXPECT_NEAR(chart_view.view_left, start.view_left, 1e-12);
+    EXPECT_NEAR(chart_view.view_top, start.view_top, 1e-12);
+    for (bool (*step)() : {Zoom_In, Zoom_Out}) {
+        while (step()) {
+        }
+        EXPECT_EQ(chart_view.zoom_rate, step == Zoom_In ? 55 : 1);
+        const double left = chart_view.view_left;
+        step();
+        EXPECT_EQ(chart_view.view_left, left);
+    }
+}
+
+TEST(Active_Runway, EqualLengthsAndOddTables) {
+    const auto active = [](std::initializer_list<std::pair<const char*, int>> runways) {
+        Airport_Info info;
+        for (const auto& [id, length] : runways)
+            info.runways.push_back({id, "", 0, 0, 0, 0, 0, 0, 0, length, 0});
+        return Active_Runway(info);
+    };
+    EXPECT_EQ(active({}), "");
+    EXPECT_EQ(active({{"9", 100}, {"18L", 200}, {"18R", 200}}), "18L");
+    // A runway without a length stands until a longer one comes; one without a name too.
+    EXPECT_EQ(active({{"9", 0}, {"10", -5}}), "9");
+    EXPECT_EQ(active({{"", 300}, {"10", 200}}), "");
+    EXPECT_EQ(active({{"", 0}, {"10", -5}}), "10");
+}

@@ -1,14 +1,5 @@
-#include <QApplication>
-#include <QComboBox>
-#include <QElapsedTimer>
-#include <QEventLoop>
-#include <QLineEdit>
-#include <QListView>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
-#include <QWindow>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 #include "platform/desktop/drawing/text.h"

@@ -1,16 +1,6 @@
 // The measures of the windows' tables were made for one font; whatever stands in for it has to fit.
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QFontMetrics>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QMouseEvent>
-#include <QScreen>
-#include <QTimer>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 #include "app/form1.h"
@@ -26,14 +16,12 @@
 #include "platform/message_box.h"
 #include "selection/form3.h"
 
-namespace skerrand {
-
-namespace {
+using namespace skerrand;
 
 using platform::Frame_Style;
 using platform::desktop::Window_Widget;
 
-float pressed_x = 0;
+static float pressed_x = 0;
 
 // The caption is a little wider than its button.
 constexpr platform::Control wide_captions[] = {{"Button",
@@ -49,7 +37,7 @@ constexpr platform::Window plain = {
     .controls = wide_captions,
     .mouse_down = [](platform::Mouse_Button, float x, float) { pressed_x = x; }};
 
-void Expect_Fits(const QWidget& widget, const char* name) {
+static void Expect_Fits(const QWidget& widget, const char* name) {
     const QFontMetrics metrics(widget.font());
     const auto* label = qobject_cast<const QLabel*>(&widget);
     if (label != nullptr && !label->pixmap().isNull()) return;
@@ -140,7 +128,3 @@ TEST(Messages, A_Message_Stands_In_The_Way_Cuts_Its_Title_Or_Mixes_The_Separator
     EXPECT_EQ(shown.toStdString(), "/home/\u00e9va/skerrand_config.cfg");
     platform::Unload(plain);
 }
-
-}  // namespace
-
-}  // namespace skerrand

@@ -3,17 +3,13 @@
 #include "platform/drawing.h"
 
 #include <QImage>
-#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <gtest/gtest.h>
-#include <string>
 
 #include "platform/desktop/drawing/device.h"
 
-namespace platform {
-
-namespace {
+using namespace platform;
 
 constexpr QRgb White = 0xFFFFFFFF;
 constexpr QRgb Black = 0xFF000000;
@@ -58,12 +54,7 @@ constexpr auto Wide_Line = [](auto* d) {
     Set_Pen_Width(d, 3), MoveToEx(d, 20, 60), LineTo(d, 50, 60);
 };
 
-constexpr struct {
-    const char* what;
-    void (*draw)(Device_Context* device);
-    int x, y;
-    QRgb colour;
-} probes[] = {
+constexpr std::tuple<const char*, void (*)(Device_Context*), int, int, QRgb> probes[] = {
     {"outline of a rectangle", [](auto* d) { Rectangle(d, 90, 20, 20, 90); }, 20, 50, Black},
     {"inside", [](auto* d) { Rectangle(d, 90, 90, 20, 20); }, 50, 50, Blue},
     {"inside of an ellipse", Near_Ellipse, 55, 55, Blue},
@@ -94,13 +85,13 @@ constexpr struct {
 };
 
 TEST(Drawing, A_Figure_Must_Not_Lose_A_Part_Or_Get_Another_Near_Or_Far) {
-    for (const auto& probe : probes) {
+    for (const auto& [what, draw, x, y, colour] : probes) {
         for (const auto style : {Pen_Style::Solid, Pen_Style::Dashed}) {
-            if (style == Pen_Style::Dashed && probe.colour == Black) continue;
+            if (style == Pen_Style::Dashed && colour == Black) continue;
             Page page(style);
             Set_Fill_Style(&page.device, Fill_Style::Solid);
-            probe.draw(&page.device);
-            EXPECT_EQ(page.Count({probe.x, probe.y, 1, 1}, probe.colour), 1) << probe.what;
+            draw(&page.device);
+            EXPECT_EQ(page.Count({x, y, 1, 1}, colour), 1) << what;
         }
     }
 }
@@ -108,23 +99,20 @@ TEST(Drawing, A_Figure_Must_Not_Lose_A_Part_Or_Get_Another_Near_Or_Far) {
 // A circle round 120, 60 whose outline runs through 80, 60 and 120, 20 and so on. East, north, west
 // and south of it are seen if the sweep goes there.
 TEST(Drawing, An_Arc_Must_Not_Sweep_The_Wrong_Way) {
-    const struct {
-        QPoint from, to;
-        const char* seen;
-    } cases[] = {
-        {{160, 50}, {110, 20}, "N"},    {{110, 20}, {160, 50}, "EWS"},
-        {{160, 70}, {110, 100}, "ENW"}, {{110, 100}, {160, 70}, "S"},
-        {{123, 0}, {117, 0}, "N"},      {{117, 0}, {123, 0}, "EWS"},
-        {{150, 30}, {150, 30}, "ENWS"}, {{150, 30}, {240, -60}, "ENWS"},
+    const std::tuple<QPoint, QPoint, const char*> cases[] = {
+        {QPoint{160, 50}, QPoint{110, 20}, "N"},    {QPoint{110, 20}, QPoint{160, 50}, "EWS"},
+        {QPoint{160, 70}, QPoint{110, 100}, "ENW"}, {QPoint{110, 100}, QPoint{160, 70}, "S"},
+        {QPoint{123, 0}, QPoint{117, 0}, "N"},      {QPoint{117, 0}, QPoint{123, 0}, "EWS"},
+        {QPoint{150, 30}, QPoint{150, 30}, "ENWS"}, {QPoint{150, 30}, QPoint{240, -60}, "ENWS"},
     };
     const QPoint places[] = {{160, 60}, {120, 20}, {80, 60}, {120, 100}};
-    for (const auto& c : cases) {
+    for (const auto& [from, to, expected] : cases) {
         Page page;
-        Arc(&page.device, 161, 20, 80, 101, c.from.x(), c.from.y(), c.to.x(), c.to.y());
+        Arc(&page.device, 161, 20, 80, 101, from.x(), from.y(), to.x(), to.y());
         std::string seen;
         for (int i = 0; i < 4; ++i)
             if (page.Count({places[i], QSize(1, 1)}, Black) == 1) seen += "ENWS"[i];
-        EXPECT_EQ(seen, c.seen) << c.from.x() << ' ' << c.from.y();
+        EXPECT_EQ(seen, expected) << from.x() << ' ' << from.y();
     }
 }
 
@@ -167,7 +155,7 @@ TEST(Drawing, No_Dash_Must_Crawl_With_The_Edge_That_Cuts_A_Line_And_No_Tab_Close
 }
 
 /// The arc of the ellipse in that box between two angles of the circle.
-void Draw_Arc(Page& page, const QRect& box, double from, double to) {
+static void Draw_Arc(Page& page, const QRect& box, double from, double to) {
     const auto far = [&](double t) {
         return box.center() + (1e6 * QPointF(std::cos(t), -std::sin(t))).toPoint();
     };
@@ -200,7 +188,3 @@ TEST(Drawing, A_Dashed_Figure_Must_Not_Vanish_Because_It_Is_Small) {
         EXPECT_GT(line.Drawn(), 0) << i;
     }
 }
-
-}  // namespace
-
-}  // namespace platform

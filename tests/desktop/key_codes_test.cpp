@@ -6,16 +6,11 @@
 #include "platform/desktop/keys/keys.h"
 #include "platform/keys.h"
 
-namespace platform::desktop {
-
-namespace {
+using namespace platform;
+using namespace platform::desktop;
 
 TEST(Key_Codes, No_Layout_Moves_A_Key_To_A_Wrong_Code) {
-    const struct {
-        const char* key;
-        std::vector<std::uint32_t> keysyms;
-        Key_Codes codes;
-    } rows[] = {
+    const std::tuple<const char*, std::vector<std::uint32_t>, Key_Codes> rows[] = {
         {"letter", {'q', 'Q'}, {81}},
         {"French digit row", {'&', '1', 0xb9}, {49}},
         {"French digit row, a key that gives a minus", {'-', '6', '|'}, {54}},
@@ -38,8 +33,8 @@ TEST(Key_Codes, No_Layout_Moves_A_Key_To_A_Wrong_Code) {
         {"Alt Gr", {0xfe03}, {165, 18}},
         {"a key without a code", {0, 0x1008ff11}, {}},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(Codes_Of(row.keysyms), row.codes) << row.key;
+    for (const auto& [key, keysyms, codes] : rows)
+        EXPECT_EQ(Codes_Of(keysyms), codes) << key;
     EXPECT_EQ(Codes_Of_Place(47), Key_Codes{186}) << "German o with dots";
     EXPECT_EQ(Codes_Of_Place(38), Key_Codes{65}) << "Greek alpha";
     EXPECT_EQ(Codes_Of_Place(61), Key_Codes{191}) << "Greek slash";
@@ -59,7 +54,3 @@ TEST(Keys, A_Press_Counts_Once_And_The_Code_Of_A_Pair_Stays_While_One_Is_Held) {
     Release_Key(62);
     EXPECT_EQ(GetAsyncKeyState(16), 0);
 }
-
-}  // namespace
-
-}  // namespace platform::desktop

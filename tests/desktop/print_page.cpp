@@ -5,12 +5,8 @@
 // printer and printing, with "measure" it prints nothing. The status is 0 if the printer has taken
 // the page, 1 if not.
 
-#include <QApplication>
-#include <QTimer>
-#include <QWidget>
-#include <cstdlib>
+#include <QtWidgets>
 #include <iostream>
-#include <string>
 
 #include "platform/desktop/program.h"
 #include "platform/drawing.h"

@@ -2,15 +2,12 @@
 
 #include "platform/printer.h"
 
-#include <QDir>
-#include <QTemporaryDir>
+#include <QtCore>
 #include <gtest/gtest.h>
 
 #include "tests/conformance/driver.h"
 
-namespace platform {
-
-namespace {
+using namespace platform;
 
 class Printing : public testing::Test {
   protected:
@@ -27,7 +24,7 @@ class Printing : public testing::Test {
     QTemporaryDir folder;
 };
 
-bool Print(const char* title) {
+static bool Print(const char* title) {
     if (!Start_Page(title)) return false;
     Print_Line("Skerrand v2.0");
     return End_Document();
@@ -57,7 +54,3 @@ TEST_F(Printing, A_File_That_Cannot_Be_Written_Must_Not_Pass_For_A_Print) {
     EXPECT_FALSE(Print("KSEA Chart"));
     EXPECT_TRUE(driver::Take_Messages().empty());
 }
-
-}  // namespace
-
-}  // namespace platform

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 #include <numeric>
 
-namespace {
-
 using namespace platform;
 
 TEST(Code_Page, Every_Byte_Comes_Back_From_Utf8) {
@@ -47,5 +45,3 @@ TEST(Code_Page, Letters_Beyond_Ascii_Change_Case_And_Signs_Among_Them_Stay) {
     EXPECT_EQ(Lower_Case(both_stay), both_stay);
     EXPECT_EQ(Upper_Case(both_stay), both_stay);
 }
-
-}  // namespace

@@ -7,10 +7,9 @@
 #
 #     # a remark
 #     ! make_world ${world}         a shell command that has to succeed, with the build's programs
-#                                   and the functions below at hand
-#     > items Form3.Combo1          a command to the program
-#     ADAK (PADK)                   the lines of its answer; its "ok" is left out
-#     = Form2.caption Settings      a property and its value
+#     > restart; items Form3.Combo1 commands to the program or functions below
+#     ADAK (PADK)                   the lines of the last one's answer; its "ok" is left out
+#     = Form2.left 0; Form2.top 0   properties and their values
 #     = running yes                 the same of a question of one word
 #
 # In an answer "..." stands for any number of lines, a line that ends with "..." for every line
@@ -125,8 +124,12 @@ capture() {
 # do_step FIRST OTHERS...: what the lines of a scenario tell.
 do_step() {
     local rest=${1:2}
-    case $1 in
-        '> '*) tell "$rest" "${@:2}" ;;
+    while [[ $1 == '> '*'; '* || $1 == '= Form'*'; '* ]] && [[ $rest == *'; '* ]]; do
+        do_step "${1:0:2}${rest%%; *}"
+        rest=${rest#*; }
+    done
+    case ${1:0:2}$rest in
+        '> '*) if declare -F "${rest%% *}" > /dev/null; then $rest; else tell "$rest" "${@:2}"; fi ;;
         '= Form'*) tell "get ${rest%% *}" "${rest#* }" "${@:2}" ;;
         '= '*) tell "${rest%% *}" "${rest#* }" "${@:2}" ;;
         *) eval "$rest" && [ $# -eq 1 ] || report "it is not so: $*" ;;

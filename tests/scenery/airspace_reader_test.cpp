@@ -7,25 +7,24 @@
 #include "selection/picks.h"
 #include "tests/scenery/bgl_builder.h"
 
-namespace skerrand {
-namespace {
+using namespace skerrand;
 
 using namespace bgl;
 
 constexpr std::int32_t Lat_30 = 3333917, Lat_45 = 5000875, Lon_30 = 357913941, Lon_45 = 1 << 29;
 
-Bytes Box(std::int32_t south, std::int32_t west, std::int32_t north, std::int32_t east) {
+static Bytes Box(std::int32_t south, std::int32_t west, std::int32_t north, std::int32_t east) {
     return Record(0x1000B, Longs({south, west, north, east}));
 }
 const Bytes Round_Both = Box(0, 0, 1 << 24, 1 << 30);
 const Bytes Round_Departure = Box(Lat_30, 0, 1 << 24, 1 << 30);
 
-Bytes Object(const std::vector<Bytes>& records) {
+static Bytes Object(const std::vector<Bytes>& records) {
     return Record(1, Join({Longs({5, 0}), Join(records)}));
 }
 
 /// With departure at 45, 45 and destination at 30, 30.
-bool Search(const Bytes& image) {
+static bool Search(const Bytes& image) {
     departure_airport.lat = departure_airport.lon = 45;
     destination_airport.lat = destination_airport.lon = 30;
     departure_airspaces.clear();
@@ -34,7 +33,7 @@ bool Search(const Bytes& image) {
     return Walk_Airspace_Group(0);
 }
 
-std::string Describe(const std::vector<Airspace_Info>& table) {
+static std::string Describe(const std::vector<Airspace_Info>& table) {
     std::ostringstream out;
     for (const Airspace_Info& a : table) {
         out << a.name << '/' << a.low_limit << '-' << a.high_limit << '/' << a.freq_text << '/'
@@ -119,6 +118,3 @@ TEST(Airspace_Reader, OverlappingObjectsTakeQuadraticTime) {
     EXPECT_FALSE(Walk_Airspace_Group(0));
     End_Allowance();
 }
-
-}  // namespace
-}  // namespace skerrand

@@ -23,9 +23,7 @@ inline Bytes Longs(std::initializer_list<std::int64_t> values) {
     return bytes;
 }
 
-inline Bytes Text(std::string_view text) {
-    return {text.begin(), text.end()};
-}
+constexpr auto Text = [](std::string_view text) { return Bytes(text.begin(), text.end()); };
 
 inline Bytes Join(const std::vector<Bytes>& parts) {
     Bytes all;
@@ -51,17 +49,9 @@ inline Bytes Record(std::int32_t type, const Bytes& body, std::optional<std::int
 
 // Records of an airport block. Positions and angles are as stored.
 
-inline Bytes Position(std::int32_t lat, std::int32_t lon) {
-    return Record(0x10001, Longs({0, lat, 0, lon}));
-}
-
-inline Bytes Icao(std::string_view text) {
-    return Record(0x10006, Text(text));
-}
-
-inline Bytes Com(std::int32_t type, std::int32_t code) {
-    return Record(0x20001, Longs({code, type}));
-}
+constexpr auto Position = [](int lat, int lon) { return Record(0x10001, Longs({0, lat, 0, lon})); };
+constexpr auto Icao = [](std::string_view text) { return Record(0x10006, Text(text)); };
+constexpr auto Com = [](int type, int code) { return Record(0x20001, Longs({code, type})); };
 
 struct Runway_Fields {
     std::int32_t lat = 0, lon = 0, elevation = 0, heading = 0;
@@ -78,18 +68,14 @@ inline Bytes Aid(std::int32_t lat, std::int32_t lon, std::int32_t course, std::i
     return Record(0x10004, Join({fields, Text(name)}));
 }
 
-inline Bytes Taxi(const std::vector<Bytes>& lists) {
-    return Record(0x11001, Join(lists));
-}
+constexpr auto Taxi = [](const std::vector<Bytes>& lists) { return Record(0x11001, Join(lists)); };
 
-/// Points have 12 bytes, parkings 20, paths 32.
+/// Points have 12 bytes, parkings 20, paths 32, names 8.
 inline Bytes List(std::int32_t element_size, const std::vector<Bytes>& elements) {
     return Join({Longs({std::ssize(elements), element_size}), Join(elements)});
 }
 
-inline std::int64_t Single(float value) {
-    return std::bit_cast<std::int32_t>(value);
-}
+constexpr auto Single = [](float value) { return std::bit_cast<std::int32_t>(value); };
 
 inline Bytes Point(std::int32_t kind, float x, float z) {
     return Longs({kind, Single(x), Single(z)});
@@ -103,31 +89,23 @@ inline Bytes Path(std::int32_t kind, std::int32_t start, std::int32_t end, std::
     return Longs({kind, 0, 0, start, end, 0, 0, name});
 }
 
-inline Bytes Names(const std::vector<std::string>& names) {
-    std::vector<Bytes> elements;
-    for (const std::string& name : names)
-        elements.push_back(Join({Text(name), Bytes(8 - name.size())}));
-    return List(8, elements);
+inline Bytes Name(std::string_view name) {
+    return Join({Text(name), Bytes(8 - name.size())});
 }
 
-struct Block {
-    std::string name;  ///< display name of the airport
-    Bytes records;
-};
-
-/// A whole file; an empty airspace section is none.
-inline Bytes Image(const std::vector<Block>& airports, const Bytes& airspaces = {}) {
+/// A whole file of airports, by name and records; an empty airspace section is none.
+inline Bytes Image(const std::vector<std::pair<std::string, Bytes>>& airports,
+                   const Bytes& airspaces = {}) {
     constexpr std::int64_t header = 168;
     const Bytes end = Longs({0x99999});
-    std::size_t target = std::size_t{header} + 24 + 8;
-    for (const Block& airport : airports)
-        target += 16 + airport.name.size();
+    std::int64_t target = header + 24 + 8;
+    for (const auto& [name, records] : airports)
+        target += 16 + std::ssize(name);
     Bytes entries, blocks;
-    for (const Block& airport : airports) {
-        const auto place = static_cast<std::int64_t>(target + blocks.size());
-        const Bytes entry = Join({Longs({0x50001, place}), Text(airport.name)});
+    for (const auto& [name, records] : airports) {
+        const Bytes entry = Join({Longs({0x50001, target + std::ssize(blocks)}), Text(name)});
         entries = Join({entries, Record(0x30002, entry)});
-        blocks = Join({blocks, Longs({1, 0, 1, 0}), airport.records, end});
+        blocks = Join({blocks, Longs({1, 0, 1, 0}), records, end});
     }
     const Bytes list = Record(0x30001, Join({Longs({0, 0, 0, std::ssize(airports) - 1}), entries}));
     Bytes file = Join({Bytes(header), list, end, Longs({0}), blocks});
@@ -139,16 +117,15 @@ inline Bytes Image(const std::vector<Block>& airports, const Bytes& airspaces = 
 }
 
 /// Top-level entry of the airspace section.
-inline Bytes Group(std::int32_t kind = 4) {
-    return Record(1, Longs({kind, 0, 0x99999, 0}));
-}
+constexpr auto Group = [](int kind = 4) { return Record(1, Longs({kind, 0, 0x99999, 0})); };
 
 /// A sound file with every kind of record.
 inline Bytes Sample() {
     const Bytes taxi =
         Taxi({List(12, {Point(1, 10, -20), Point(1, 0, 35.5F), Point(5, -700, 0)}),
               List(20, {Parking(15, 25, 12, 0x800605), Parking(-40, -5, 0.5F, 0xA00090)}),
-              List(32, {Path(0, 0, 1, 1), Path(1, 1, 2, 0), Path(2, 2, 0, 0)}), Names({"", "B"})});
+              List(32, {Path(0, 0, 1, 1), Path(1, 1, 2, 0), Path(2, 2, 0, 0)}),
+              List(8, {Name(""), Name("B")})});
     const Bytes large =
         Join({Position(5000875, 0x40000000), Icao("lxgb"), Com(6, 0x01213000), Com(1, 0x01180000),
               Runway({5000875, 0x40000000, 3, 0x40000000, 6000, 150, 1, 9}),

@@ -8,8 +8,7 @@
 #include "scenery/magnetic.h"
 #include "tests/scenery/bgl_builder.h"
 
-namespace skerrand {
-namespace {
+using namespace skerrand;
 
 using namespace bgl;
 
@@ -33,7 +32,7 @@ TEST(Bgl_Reader, Number_Or_Text_Misread) {
     EXPECT_TRUE(In_Image(99, 0));
 }
 
-std::string Walked_Names(const Bytes& file) {
+static std::string Walked_Names(const Bytes& file) {
     Load(file);
     Walk_Bgl();
     std::string names;
@@ -45,7 +44,7 @@ std::string Walked_Names(const Bytes& file) {
 
 /// A file of one airport section, from position 300 on, with two airport blocks at 200 and 220, the
 /// second of which has the wrong head.
-Bytes Section_File(const Bytes& section) {
+static Bytes Section_File(const Bytes& section) {
     Bytes file;
     Put(file, 0x90, Longs({1, 0, 0, 300, 0, 0}));
     Put(file, 200, Longs({1, 9, 1, 9, 0, 1, 9, 2, 9, 0}));
@@ -53,12 +52,12 @@ Bytes Section_File(const Bytes& section) {
     return file;
 }
 
-Bytes Entry(std::string_view name, std::int32_t target = 200, std::int32_t target_type = 0x50001,
-            std::int32_t type = 0x30002) {
+static Bytes Entry(std::string_view name, std::int32_t target = 200,
+                   std::int32_t target_type = 0x50001, std::int32_t type = 0x30002) {
     return Record(type, Join({Longs({target_type, target}), Text(name)}));
 }
 
-Bytes Entries(std::int32_t last, const Bytes& entries, std::int32_t type = 0x30001) {
+static Bytes Entries(std::int32_t last, const Bytes& entries, std::int32_t type = 0x30001) {
     return Record(type, Join({Longs({0, 0, 0, last}), entries}));
 }
 
@@ -185,6 +184,3 @@ TEST(Magnetic, BadGridSpoilsTheTableOrTheMemory) {
     }
     magnetic_table.fill(0);  // as other tests find it
 }
-
-}  // namespace
-}  // namespace skerrand

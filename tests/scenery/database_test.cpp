@@ -6,27 +6,26 @@
 
 #include "tests/scenery/bgl_builder.h"
 
-namespace skerrand {
-namespace {
+using namespace skerrand;
 
 using bgl::Bytes, bgl::Join, bgl::Longs, bgl::Prefix;
 
 template <typename Number>
-Bytes Stored(Number number) {
+static Bytes Stored(Number number) {
     const auto bytes = std::bit_cast<std::array<std::uint8_t, sizeof number>>(number);
     return {bytes.begin(), bytes.end()};
 }
-Bytes Stored(const char* text) {
+static Bytes Stored(const char* text) {
     return Join({Stored(static_cast<std::int16_t>(std::strlen(text))), bgl::Text(text)});
 }
 template <typename... Values>
-Bytes Stored_All(Values... values) {
+static Bytes Stored_All(Values... values) {
     return Join({Stored(values)...});
 }
 constexpr std::size_t Last_Record = 64;
 
 /// An airport with one of everything, neighbours of one type different.
-Airport_Info Full_Airport() {
+static Airport_Info Full_Airport() {
     const std::vector<Runway_Info> runways{{"9L", "27R", 3, 4, 5, 6, 7, 1, 9, 10, 11}};
     const std::vector<Ils_Info> ils{{"ILS", 12, 13, 9, "109.5"}};
     const std::vector<Parking_Info> parkings{{"GATE 1", 18, 19, 20}};
@@ -36,7 +35,7 @@ Airport_Info Full_Airport() {
             "a",    "n",    "i", runways, ils, points, parkings, paths};
 }
 
-std::vector<Airport_Info> Sample() {
+static std::vector<Airport_Info> Sample() {
     std::vector<Airport_Info> airports(3, Full_Airport());
     airports[1] = {};
     airports[2].icao_id = "caf\xE9";
@@ -112,6 +111,3 @@ TEST(Database, TextTooLongForItsLengthShiftsTheFieldsBehind) {
     airports[0].taxi_paths[0].name.resize(65535);
     EXPECT_EQ(read, airports);
 }
-
-}  // namespace
-}  // namespace skerrand

@@ -6,8 +6,7 @@
 
 #include "tools/simulator/options.h"
 
-namespace simulator {
-namespace {
+using namespace simulator;
 
 using skerrand::Airport_Info;
 
@@ -15,7 +14,7 @@ constexpr double Degree = std::numbers::pi / 180;
 constexpr double Metres = 111120;  // to the degree
 
 /// An airport whose longest runway has that heading and length; one beside it is damaged.
-Airport_Info Airport(double lat, double lon, double heading, double length) {
+static Airport_Info Airport(double lat, double lon, double heading, double length) {
     const double north = std::cos(heading * Degree) * length / 2 / Metres;
     const double east = std::sin(heading * Degree) * length / 2 / Metres / std::cos(lat * Degree);
     Airport_Info airport;
@@ -26,7 +25,7 @@ Airport_Info Airport(double lat, double lon, double heading, double length) {
 }
 
 /// By the haversines, unlike the code.
-double Distance(double lat_1, double lon_1, double lat_2, double lon_2) {
+static double Distance(double lat_1, double lon_1, double lat_2, double lon_2) {
     const double a = std::sin((lat_2 - lat_1) * Degree / 2),
                  b = std::sin((lon_2 - lon_1) * Degree / 2);
     const double h = a * a + std::cos(lat_1 * Degree) * std::cos(lat_2 * Degree) * b * b;
@@ -35,25 +34,21 @@ double Distance(double lat_1, double lon_1, double lat_2, double lon_2) {
 
 TEST(Flight, Jumps_Or_Points_Elsewhere_Or_Does_Not_Arrive) {
     const Airport_Info home = Airport(47.45, -122.31, 180, 3600);
-    const struct {
-        const char* what;
-        Airport_Info departure, destination;
-        double heading;  // of the take-off
-        double metres;   // from runway to runway, about
-    } cases[] = {
+    // The heading of the take-off, and about so many metres from runway to runway.
+    const std::tuple<const char*, Airport_Info, Airport_Info, double, double> cases[] = {
         {"next door, behind", home, Airport(47.53, -122.3, 140, 3000), 0, 9000},
         {"straight ahead", home, Airport(33.9, -118.4, 250, 3600), 180, 1.54e6},
         {"across the date line", Airport(-17.7, 177.4, 20, 3200), Airport(-16, -178, 271, 1800), 20,
          525e3},
         {"over the pole", Airport(80, 0, 45, 2000), Airport(79, 179, 0, 2000), 45, 2.333e6},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
-        const std::vector<Leg> flight = Plan_Flight(c.departure, &c.destination);
+    for (const auto& [what, departure, destination, heading, metres] : cases) {
+        SCOPED_TRACE(what);
+        const std::vector<Leg> flight = Plan_Flight(departure, &destination);
         constexpr double Step = 0.5;
         double way = 0, fastest = 0;
         Aircraft before = Aircraft_At(flight, -1), soon = Aircraft_At(flight, 10);
-        EXPECT_NEAR(std::remainder(before.heading - c.heading, 360), 0, 0.1);
+        EXPECT_NEAR(std::remainder(before.heading - heading, 360), 0, 0.1);
         EXPECT_NEAR(Distance(before.lat, before.lon, soon.lat, soon.lon), 100, 1) << "a fast start";
         for (double time = Step; time < Duration(flight) + 2; time += Step) {
             const Aircraft now = Aircraft_At(flight, time);
@@ -67,8 +62,8 @@ TEST(Flight, Jumps_Or_Points_Elsewhere_Or_Does_Not_Arrive) {
             before = now;
         }
         EXPECT_NEAR(fastest, 150, 1);
-        EXPECT_NEAR(way, c.metres, 8000);
-        const auto& runway = c.destination.runways[0];
+        EXPECT_NEAR(way, metres, 8000);
+        const auto& runway = destination.runways[0];
         EXPECT_LT(std::min(Distance(before.lat, before.lon, runway.lat_1, runway.lon_1),
                            Distance(before.lat, before.lon, runway.lat_2, runway.lon_2)),
                   1);
@@ -93,6 +88,3 @@ TEST(Simulator_Options, Command_Line_Misread) {
     EXPECT_EQ(Parse_Options(2, words, options = {}), "");
     EXPECT_TRUE(options.refuse && !options.fs98 && !options.wait && !options.help);
 }
-
-}  // namespace
-}  // namespace simulator

@@ -1,6 +1,5 @@
 #include "simlink/fsuipc.h"
 
-#include <array>
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
@@ -16,8 +15,7 @@ using Block = std::span<std::uint8_t>;
 /// only moves a number, and the server is a function over the block.
 struct Fake_Link {
     const char* window_class = "UIPCMAIN";  ///< of the one window that stands
-    platform::Message_Id message = 0xC0DE;
-    platform::Atom atom = 0xC001;
+    std::uint16_t message = 0xC0DE, atom = 0xC001;
     platform::Mapping_Handle mapping = 77;
     bool view_fails = false;
     int failing_sends = 0;  ///< so many sends fail before the first that succeeds
@@ -83,11 +81,12 @@ void Sleep(std::uint32_t milliseconds) {
 
 }  // namespace platform
 
-namespace skerrand {
+using namespace skerrand;
+
 namespace {
 
-void Put(Block block, std::size_t at, std::uint32_t value) {
-    std::memcpy(&block[at], &value, sizeof value);
+void Put(Block block, int at, std::uint32_t value) {
+    std::memcpy(block.data() + at, &value, sizeof value);
 }
 
 /// Puts version words where the batch of the opening has its two answers.
@@ -117,34 +116,29 @@ const std::string Made = "FSASMLIB:IPC atom:FSASMLIB:IPC:ABCDEF01:1 block:FSASML
 const std::string Released = "-atom -view -block ";
 
 TEST_F(Link, FailureAtAStepGivesAnotherCodeOrLeavesThingsBehind) {
-    const struct {
-        std::int32_t code;
-        void (*arrange)();
-        std::string calls;
-        std::int32_t required = 6;
-    } cases[] = {
-        {Link_No_Server, [] { fake.window_class = "Notepad"; }, ""},
-        {Link_No_Message, [] { fake.message = 0; }, "FSASMLIB:IPC "},
-        {Link_No_Atom, [] { fake.atom = 0; }, Made.substr(0, Made.find("block"))},
-        {Link_No_Mapping, [] { fake.mapping = 0; }, Made + "-atom "},
-        {Link_No_Mapping, [] { fake.error = 183; }, Made + "-atom -block "},
-        {Link_No_View, [] { fake.view_fails = true; }, Made + "-atom -block "},
-        {Link_Refused, [] { fake.reply = 2; }, Made + Released},
-        {Link_Bad_Version, [] { Answer(0x19980004, 0xFADE0006); }, Made + Released},
-        {Link_Bad_Version, [] { Answer(0x80000000, 0xFADE0006); }, Made + Released},
-        {Link_Bad_Version, [] { Answer(0x31230002, 0xFADF0006); }, Made + Released},
-        {Link_Wrong_Simulator, [] { Answer(0x31230002, 0xFADE0007); }, Made + Released},
+    const std::tuple<std::int32_t, void (*)(), std::string, std::int32_t> cases[] = {
+        {Link_No_Server, [] { fake.window_class = "Notepad"; }, "", 6},
+        {Link_No_Message, [] { fake.message = 0; }, "FSASMLIB:IPC ", 6},
+        {Link_No_Atom, [] { fake.atom = 0; }, Made.substr(0, Made.find("block")), 6},
+        {Link_No_Mapping, [] { fake.mapping = 0; }, Made + "-atom ", 6},
+        {Link_No_Mapping, [] { fake.error = 183; }, Made + "-atom -block ", 6},
+        {Link_No_View, [] { fake.view_fails = true; }, Made + "-atom -block ", 6},
+        {Link_Refused, [] { fake.reply = 2; }, Made + Released, 6},
+        {Link_Bad_Version, [] { Answer(0x19980004, 0xFADE0006); }, Made + Released, 6},
+        {Link_Bad_Version, [] { Answer(0x80000000, 0xFADE0006); }, Made + Released, 6},
+        {Link_Bad_Version, [] { Answer(0x31230002, 0xFADF0006); }, Made + Released, 6},
+        {Link_Wrong_Simulator, [] { Answer(0x31230002, 0xFADE0007); }, Made + Released, 6},
         {Link_Wrong_Simulator, [] {}, Made + Released, 0x10006},
-        {Link_Ok, [] { Answer(0x19980005, 0xFADE0006); }, Made},
+        {Link_Ok, [] { Answer(0x19980005, 0xFADE0006); }, Made, 6},
         {Link_Ok, [] { Answer(0x31230002, 0xFADE0007); }, Made, 0},
     };
-    for (const auto& c : cases) {
+    for (const auto& [code, arrange, calls, required] : cases) {
         SetUp();
-        c.arrange();
-        EXPECT_EQ(Open(c.required), c.code);
-        EXPECT_EQ(fake.calls, c.calls) << c.code;
+        arrange();
+        EXPECT_EQ(Open(required), code);
+        EXPECT_EQ(fake.calls, calls) << code;
         Process_Queue(result);
-        EXPECT_EQ(result, c.code == Link_Ok ? Link_Nothing_Queued : Link_Not_Open);
+        EXPECT_EQ(result, code == Link_Ok ? Link_Nothing_Queued : Link_Not_Open);
     }
 }
 
@@ -213,28 +207,23 @@ TEST_F(Open_Batch, BytesOfTheBatchAreOutOfPlace) {
 }
 
 TEST_F(Open_Batch, RetriesAreCountedWrongly) {
-    const struct {
-        int failing;
-        std::uint32_t error, reply;
-        std::int32_t code;
-        int sends;
-    } cases[] = {{0, 0, 1, Link_Ok, 1},          {10, 5, 1, Link_Ok, 11},
-                 {11, 0, 1, Link_Timed_Out, 11}, {99, 1400, 1, Link_Send_Failed, 11},
-                 {0, 0, 0, Link_Refused, 1},     {1, 0, 0x10001, Link_Refused, 2}};
-    for (const auto& c : cases) {
+    const std::tuple<int, std::uint32_t, std::uint32_t, std::int32_t, int> cases[] = {
+        {0, 0, 1, Link_Ok, 1},          {10, 5, 1, Link_Ok, 11},
+        {11, 0, 1, Link_Timed_Out, 11}, {99, 1400, 1, Link_Send_Failed, 11},
+        {0, 0, 0, Link_Refused, 1},     {1, 0, 0x10001, Link_Refused, 2}};
+    for (const auto& [failing, error, reply, code, sends] : cases) {
         SetUp();
         fake.server = [](Block block) { block[16] = 1; };
-        fake.failing_sends = c.failing;
-        fake.error = c.error;
-        fake.reply = c.reply;
-        fake.clock = 100;
+        fake.failing_sends = failing;
+        fake.error = error;
+        fake.reply = reply;
         std::uint8_t byte = 42;
         ASSERT_TRUE(Queue_Read(0, 1, &byte, result));
-        EXPECT_EQ(Process_Queue(result), c.code == Link_Ok);
-        EXPECT_EQ(result, c.code);
-        EXPECT_EQ(byte, c.code == Link_Ok ? 1 : 42);
-        EXPECT_EQ(fake.sends, c.sends);
-        EXPECT_EQ(fake.clock, 100U * static_cast<unsigned>(c.sends));
+        EXPECT_EQ(Process_Queue(result), code == Link_Ok);
+        EXPECT_EQ(result, code);
+        EXPECT_EQ(byte, code == Link_Ok ? 1 : 42);
+        EXPECT_EQ(fake.sends, sends);
+        EXPECT_EQ(fake.clock, 100U * static_cast<unsigned>(sends));
         EXPECT_FALSE(Process_Queue(result) || result != Link_Nothing_Queued);
         EXPECT_EQ(fake.calls, Made);  // a failure does not close the link
     }
@@ -242,9 +231,8 @@ TEST_F(Open_Batch, RetriesAreCountedWrongly) {
 
 TEST_F(Open_Batch, LimitIsOffByAByte) {
     std::vector<std::uint8_t> bytes(40000, 5);
-    for (const std::uint32_t too_much : {32512U - 4 - 16 + 1, 0x80000000U, 0xFFFFFFFFU}) {
+    for (const std::uint32_t too_much : {32512U - 4 - 16 + 1, 0x80000000U, 0xFFFFFFFFU})
         EXPECT_FALSE(Queue_Read(0, too_much, bytes.data(), result) || result != Link_Batch_Full);
-    }
     EXPECT_FALSE(Queue_Write(0, 32512 - 4 - 12 + 1, bytes.data(), result));
     EXPECT_TRUE(Queue_Write(0, 32512 - 4 - 12 - 16, bytes.data(), result));
     EXPECT_FALSE(Queue_Read(0, 1, bytes.data(), result) || result != Link_Batch_Full);
@@ -267,13 +255,8 @@ TEST_F(Open_Batch, SpoiltBlockIsTakenOnTrust) {
     for (int i = 0; i < 3; ++i)
         ASSERT_TRUE(Queue_Read(0, 4, &earlier, result));
     SetUp();  // that batch is never sent
-    const struct {
-        const char* what;
-        std::size_t at;  // heads at 0 and 20, the end mark at 38
-        std::uint32_t value;
-        bool ok;
-        std::uint32_t first, second;
-    } cases[] = {
+    // Heads stand at 0 and 20, the end mark at 38.
+    const std::tuple<const char*, int, std::uint32_t, bool, std::uint32_t, int> cases[] = {
         {"upper half of an id", 0, 0x77770001, true, 0, 0},
         {"end ahead of all", 0, 0x77770000, true, 0x11111111, 0x2222},
         {"unknown id", 20, 3, false, 0, 0x2222},
@@ -286,22 +269,20 @@ TEST_F(Open_Batch, SpoiltBlockIsTakenOnTrust) {
         {"count past the block's end", 28, 32768 - 36 + 1, false, 0, 0x2222},
         {"negative count", 8, 0xFFFFFFFF, false, 0x11111111, 0x2222},
     };
-    for (const auto& c : cases) {
+    for (const auto& [what, at, value, ok, first, second] : cases) {
         std::uint32_t firsts[] = {0x11111111, 0xFEEDFACE};
         std::uint16_t seconds[] = {0x2222, 0xBEEF};
         fake.block.fill(0);
         fake.block[32768 - 10] = 1;
         ASSERT_TRUE(Queue_Read(0, 4, firsts, result));
         ASSERT_TRUE(Queue_Read(0, 2, seconds, result));
-        fake.server = [&](Block block) { Put(block, c.at, c.value); };
+        fake.server = [at = at, value = value](Block block) { Put(block, at, value); };
         result = 99;
-        EXPECT_EQ(Process_Queue(result), c.ok) << c.what;
-        EXPECT_EQ(result, c.ok ? 0 : 99) << c.what;
-        EXPECT_EQ(firsts[0], c.first) << c.what;
-        EXPECT_EQ(seconds[0], c.second) << c.what;
-        EXPECT_TRUE(firsts[1] == 0xFEEDFACE && seconds[1] == 0xBEEF && earlier == 1) << c.what;
+        EXPECT_EQ(Process_Queue(result), ok) << what;
+        EXPECT_EQ(result, ok ? 0 : 99) << what;
+        EXPECT_EQ(std::pair(firsts[0], int{seconds[0]}), std::pair(first, second)) << what;
+        EXPECT_TRUE(firsts[1] == 0xFEEDFACE && seconds[1] == 0xBEEF && earlier == 1) << what;
     }
 }
 
 }  // namespace
-}  // namespace skerrand

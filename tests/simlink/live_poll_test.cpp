@@ -9,8 +9,7 @@
 #include "platform/simulator/simulator.h"
 #include "simlink/fsuipc.h"
 
-namespace skerrand {
-namespace {
+using namespace skerrand;
 
 using platform::headless::Execute;
 
@@ -19,26 +18,18 @@ TEST(Poll, RawValuesAreConvertedWrongly) {
         platform::simulator::Start("UIPCMAIN");
         platform::Show(form4::window);
     });
-    const struct {
-        const char *set, *altimeter;
-        std::uint8_t unit = Unit_Inches;
-        int heading = 0;
-    } cases[] = {
-        {"0xEC6 0800", "0", Unit_Millibars},  // half to even
-        {"0xEC6 1800", "2", Unit_Millibars},
-        {"0xEC6 FFFF", "4096", Unit_Millibars},
-        {"0xEC6 0500", "0.01"},
-        {"0x580 000000C0", "0.01", Unit_Inches, -90},
-        {"0x580 00000010", "0.01", Unit_Inches, 22},
-        {"0x580 00000030", "0.01", Unit_Inches, 68},
+    const std::tuple<std::string, std::string, std::uint8_t, int> cases[] = {
+        {"0xEC6 0800", "0", Unit_Millibars, 0},  // half to even
+        {"0xEC6 1800", "2", Unit_Millibars, 0},      {"0xEC6 FFFF", "4096", Unit_Millibars, 0},
+        {"0xEC6 0500", "0.01", Unit_Inches, 0},      {"0x580 000000C0", "0.01", Unit_Inches, -90},
+        {"0x580 00000010", "0.01", Unit_Inches, 22}, {"0x580 00000030", "0.01", Unit_Inches, 68},
     };
-    for (const auto& c : cases) {
-        altimeter_unit = c.unit;
-        Execute(std::string("simulator set ") + c.set);
+    for (const auto& [set, altimeter, unit, heading] : cases) {
+        altimeter_unit = unit;
+        Execute("simulator set " + set);
         Execute("advance 1000");
-        EXPECT_EQ(Execute("get Form4.Label1.caption"),
-                  std::string("Altimeter: ") + c.altimeter + "\nok\n");
-        EXPECT_EQ(aircraft_heading, c.heading) << c.set;
+        EXPECT_EQ(Execute("get Form4.Label1.caption"), "Altimeter: " + altimeter + "\nok\n");
+        EXPECT_EQ(aircraft_heading, heading) << set;
     }
     platform::Unload(form4::window);
 }
@@ -61,6 +52,3 @@ TEST(Simulator, StateAreaIsReadOrWrittenOutsideOrOutOfPlace) {
     }
     Close_Link();
 }
-
-}  // namespace
-}  // namespace skerrand
