@@ -37,8 +37,8 @@ setxkbmap us
 
 menu 100 2
 window 'Keyboard assigments'
-# Its frame, not its client area, is in the corner of the screen.
-corner=$(import -window root -crop 2x2+0+0 -depth 8 txt:-)
+# The head of its frame, not its client area, is in the corner of the screen.
+corner=$(import -window root -crop 2x2+4+4 -depth 8 txt:-)
 ! grep -qE '#(000000|D4D0C8)' <<< "$corner" || fail "the dialog is not in the corner: $corner"
 xdotool mousemove --window "$id" 100 110 click --repeat 2 --delay 80 1
 window 'Change key assigment'
