@@ -48,8 +48,9 @@ void Remove_Leftovers_Of(const std::wstring& native) {
 bool Fill(const File_Handle& file, std::span<const std::uint8_t> bytes) {
     DWORD written = 0;
     const auto size = static_cast<DWORD>(bytes.size());
-    return WriteFile(file.Get(), bytes.data(), size, &written, nullptr) && written == size &&
-           FlushFileBuffers(file.Get());
+    if (!WriteFile(file.Get(), bytes.data(), size, &written, nullptr)) return false;
+    if (written < size) SetLastError(ERROR_DISK_FULL);  // which Wine leaves untold
+    return written == size && FlushFileBuffers(file.Get());
 }
 
 /// Gives an open file another name, over the file that has it. A program that watches files (a
