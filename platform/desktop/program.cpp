@@ -16,7 +16,6 @@
 #include "platform/desktop/drawing/text.h"
 #include "platform/desktop/keys/keys.h"
 #include "platform/desktop/windows/window_widget.h"
-#include "platform/desktop/windows/windows.h"
 #include "platform/program.h"
 
 namespace platform {
@@ -25,9 +24,6 @@ namespace desktop {
 
 namespace {
 
-int handlers_running = 0;
-bool begun = false;
-bool ending = false;
 bool leaving = false;
 
 /// The same look everywhere, in the grey that the windows' tables are made for: a theme of the
@@ -72,47 +68,17 @@ int Open_Signals() {
 void Leave() {
     leaving = true;
     if (QWidget* box = QApplication::activeModalWidget()) box->close();
-    if (ending) return;
+    if (Is_Ending()) return;
     if (Is_Busy()) return QTimer::singleShot(0, Leave);
     const Handler_Scope scope;
-    while (!ending && !Loaded_Windows().empty())
+    while (!Is_Ending() && !Loaded_Windows().empty())
         Loaded_Windows().back()->Dismiss();
 }
 
 }  // namespace
 
-Handler_Scope::Handler_Scope() {
-    ++handlers_running;
-}
-
-Handler_Scope::~Handler_Scope() {
-    --handlers_running;
-    if (handlers_running > 0) return;
-    if (begun && Has_Ended()) ending = true;
-    // Not quit(): that would close the windows one by one, as the user would.
-    if (ending) {
-        QCoreApplication::exit(0);
-    } else {
-        Settle_Windows();
-    }
-}
-
-bool Is_Busy() {
-    return handlers_running > 0 || ending;
-}
-
-bool Is_Ending() {
-    return ending;
-}
-
 bool Is_Leaving() {
     return leaving;
-}
-
-void Call(Handler handler) {
-    if (handler == nullptr || ending) return;
-    const Handler_Scope scope;
-    handler();
 }
 
 void Set_Up_Application() {
@@ -126,15 +92,16 @@ void Set_Up_Application() {
 }
 
 void Begin(Handler start) {
-    Destroy_Windows();
-    begun = true;
-    ending = false;
     Watch_Keys();
-    const Handler_Scope scope;
-    start();
+    common::Begin(start);
 }
 
 }  // namespace desktop
+
+// Not quit(): that would close the windows one by one, as the user would.
+void common::Leave_Loop() {
+    QCoreApplication::exit(0);
+}
 
 int Run(int argc, char** argv, Handler start) {
     // Staying on top, places on the screen and global keys are an X server's, which most Wayland
@@ -160,16 +127,6 @@ int Run(int argc, char** argv, Handler start) {
     desktop::Destroy_Windows();
     close(ends);
     return status;
-}
-
-void End_Program() {
-    desktop::ending = true;
-    // Called from outside any handler it takes effect at once.
-    const desktop::Handler_Scope scope;
-}
-
-bool Has_Ended() {
-    return desktop::ending || desktop::Loaded_Windows().empty();
 }
 
 }  // namespace platform

@@ -6,7 +6,6 @@
 #include "platform/files.h"
 #include "platform/headless/program.h"
 #include "platform/headless/protocol.h"
-#include "platform/message_box.h"
 
 // What a user does with controls, and with a window's client area and frame.
 namespace platform::headless {
@@ -17,16 +16,15 @@ void Click(Arguments arguments, Reply& reply) {
     const Target target = Control_Named(arguments[0], reply);
     if (!target) return;
     const Control& row = target.Row();
-    const bool is_check = row.kind == Control_Kind::Check;
     const bool is_option = row.kind == Control_Kind::Option;
-    if (!is_check && !is_option && row.kind != Control_Kind::Button &&
+    if (row.kind != Control_Kind::Check && !is_option && row.kind != Control_Kind::Button &&
         row.kind != Control_Kind::Menu) {
         return Fail(reply, "this control cannot be clicked");
     }
     if (!Takes_Input(target, reply)) return;
-    if (is_check) target.State().checked = !target.State().checked;
-    if (is_option) Set_Option(target.Ref(), true);
-    Call(row.handler);
+    // Choosing an option button anew calls its handler too.
+    if (is_option && target.State().checked) return Call(row.handler);
+    Take_Click(target.State());
 }
 
 void Double_Click(Arguments arguments, Reply& reply) {
@@ -42,7 +40,7 @@ void Pick(Arguments arguments, Reply& reply) {
         return Fail(reply, "nothing can be picked from this control");
     }
     const auto index = Whole_Number(arguments[1], -1, Entry_Count(target.Ref()) - 1, reply);
-    if (index && Takes_Input(target, reply)) Select_Entry(target.Ref(), static_cast<int>(*index));
+    if (index && Takes_Input(target, reply)) Take_Pick(target.State(), static_cast<int>(*index));
 }
 
 void Type(Arguments arguments, Reply& reply) {
@@ -66,11 +64,9 @@ void Move_To_Folder(Arguments arguments, Reply& reply) {
     if (!exists) return Fail(reply, "no such folder");
     if (!Takes_Input(list, reply)) return;
     const std::string whole = path ? Whole_Path(*path) : std::string();
-    if (!whole.empty()) return Move_Folder_List(list.Ref(), whole);
-    Message_Box("The folder \"" + From_Utf8_Lossy(arguments[1]) +
-                    "\" cannot be used, because its name holds characters that this program cannot "
-                    "write.",
-                Icon::Exclamation, Message_Title);
+    if (whole.empty()) return Refuse_Folder(From_Utf8_Lossy(arguments[1]));
+    Move_Folder_List(list.State(), whole);
+    Call(list.Row().handler);
 }
 
 void Choose_Drive(Arguments arguments, Reply& reply) {
@@ -78,7 +74,7 @@ void Choose_Drive(Arguments arguments, Reply& reply) {
     if (!list) return;
     const auto index = Whole_Number(arguments[1], 0, Entry_Count(list.Ref()) - 1, reply);
     if (!index || !Takes_Input(list, reply)) return;
-    Select_Entry(list.Ref(), static_cast<int>(*index));
+    Take_Pick(list.State(), static_cast<int>(*index));
     Call(list.Row().handler);
 }
 
@@ -87,11 +83,6 @@ std::optional<Mouse_Button> Button_Named(std::string_view name) {
     if (name == "middle") return Mouse_Button::Middle;
     if (name == "right") return Mouse_Button::Right;
     return std::nullopt;
-}
-
-/// Where a pixel lies between two bounds of the user coordinates.
-float Between(double start, double end, long long pixel, int pixels) {
-    return static_cast<float>(start + static_cast<double>(pixel) * (end - start) / pixels);
 }
 
 void Press(Arguments arguments, Reply& reply) {
@@ -103,21 +94,18 @@ void Press(Arguments arguments, Reply& reply) {
     const auto y = Whole_Number(arguments[3], 0, form->client_height - 1, reply);
     if (!x || !y || !Takes_Input(*form, reply)) return;
     if (Is_Covered(*form, static_cast<int>(*x), static_cast<int>(*y))) return;
-    const auto [left, top, right, bottom] = form->user_bounds;
-    const Mouse_Handler press = form->window->mouse_down;
-    if (press == nullptr) return;
-    press(*button, Between(left, right, *x, form->client_width),
-          Between(top, bottom, *y, form->client_height));
+    form->Take_Press(*button, static_cast<double>(*x), static_cast<double>(*y),
+                     {form->client_width, form->client_height});
 }
 
 void Resize(Arguments arguments, Reply& reply) {
     Form* form = Form_Named(arguments[0], reply);
     if (form == nullptr) return;
-    if (form->window->frame != Frame_Style::Sizable || form->minimised) {
+    if (form->table.frame != Frame_Style::Sizable || form->minimised) {
         return Fail(reply, "this window cannot be resized");
     }
-    const auto width = Whole_Number(arguments[1], Frame_Width(*form->window), INT_MAX, reply);
-    const auto height = Whole_Number(arguments[2], Frame_Height(*form->window), INT_MAX, reply);
+    const auto width = Whole_Number(arguments[1], Frame_Width(form->table), INT_MAX, reply);
+    const auto height = Whole_Number(arguments[2], Frame_Height(form->table), INT_MAX, reply);
     if (!width || !height || !Takes_Input(*form, reply)) return;
     Resize_Form(*form, static_cast<int>(*width), static_cast<int>(*height));
 }
@@ -125,7 +113,7 @@ void Resize(Arguments arguments, Reply& reply) {
 void Minimise_Window(Arguments arguments, Reply& reply) {
     Form* form = Form_Named(arguments[0], reply);
     if (form == nullptr) return;
-    const Frame_Style frame = form->window->frame;
+    const Frame_Style frame = form->table.frame;
     if (frame != Frame_Style::Fixed && frame != Frame_Style::Sizable) {
         return Fail(reply, "this window cannot be minimised");
     }
@@ -139,11 +127,11 @@ void Restore(Arguments arguments, Reply& reply) {
 
 void Close(Arguments arguments, Reply& reply) {
     const Form* form = Form_Named(arguments[0], reply);
-    if (form != nullptr && Takes_Input(*form, reply)) Unload(*form->window);
+    if (form != nullptr && Takes_Input(*form, reply)) platform::Unload(form->table);
 }
 
 void Untop(Arguments arguments, Reply& reply) {
-    if (Form* form = Form_Named(arguments[0], reply)) form->topmost = false;
+    if (Form* form = Form_Named(arguments[0], reply)) form->is_topmost = false;
 }
 
 constexpr Command commands[] = {

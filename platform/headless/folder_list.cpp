@@ -1,5 +1,4 @@
 #include "platform/code_page.h"
-#include "platform/controls.h"
 #include "platform/files.h"
 #include "platform/headless/form.h"
 #include "platform/headless/program.h"
@@ -75,11 +74,9 @@ std::string headless::Whole_Path(std::string_view path) {
     return whole;
 }
 
-void headless::Move_Folder_List(Control_Ref control, const std::string& whole_path) {
-    Control_State* list = Find_State(control, Control_Kind::Folder);
-    if (list == nullptr) return;
-    list->path = whole_path;
-    Call(control.window->controls[control.index].handler);
+void headless::Move_Folder_List(Control_State& list, const std::string& whole_path) {
+    list.folder = whole_path;
+    list.entries = Subfolders(whole_path);
 }
 
 std::vector<std::string> headless::Subfolders(std::string_view path) {
@@ -89,18 +86,13 @@ std::vector<std::string> headless::Subfolders(std::string_view path) {
     return names;
 }
 
-std::string Folder_Path(Control_Ref control) {
-    const headless::Control_State* list = headless::Find_State(control, Control_Kind::Folder);
-    return list == nullptr ? std::string() : list->path;
-}
-
-void Set_Folder_Path(Control_Ref control, std::string_view path) {
-    const headless::Control_State* list = headless::Find_State(control, Control_Kind::Folder);
-    if (list == nullptr) return;
+bool headless::Control_State::Go_To(std::string_view path) {
     const bool is_drive = path.size() == 2 && Starts_With_Drive(path);
-    if (!is_drive && !Folder_Exists(path)) return;
-    const std::string whole = headless::Whole_Path(path);
-    if (!whole.empty() && whole != list->path) headless::Move_Folder_List(control, whole);
+    if (!is_drive && !Folder_Exists(path)) return false;
+    const std::string whole = Whole_Path(path);
+    if (whole.empty() || whole == folder) return false;
+    Move_Folder_List(*this, whole);
+    return true;
 }
 
 }  // namespace platform

@@ -10,8 +10,6 @@ namespace platform {
 
 namespace headless {
 
-std::vector<std::unique_ptr<Form>> forms;
-
 namespace {
 
 std::size_t Container_Of(const Window& window, const Control& control) {
@@ -23,23 +21,6 @@ std::size_t Container_Of(const Window& window, const Control& control) {
     return No_Container;
 }
 
-Control_State Make_Control(const Window& window, const Control& control) {
-    const bool has_text = control.kind == Control_Kind::Text || control.kind == Control_Kind::Combo;
-    Control_State state;
-    state.container = Container_Of(window, control);
-    (has_text ? state.text : state.caption) = control.caption;
-    state.enabled = control.enabled;
-    state.transparent = control.transparent;
-    if (control.kind == Control_Kind::Drive) state.entries = drive_entries;
-    if (control.kind == Control_Kind::Folder) state.path = Current_Folder();
-    if (control.kind == Control_Kind::Timer) {
-        state.running = control.enabled;
-        state.interval = std::max(control.interval, 0);
-        state.due = Clock() + state.interval;
-    }
-    return state;
-}
-
 /// Halves to even.
 int Whole_Pixels(int twips) {
     return static_cast<int>(std::lrint(static_cast<double>(twips) / Twips_Per_Pixel));
@@ -49,40 +30,39 @@ bool Is_Shown_On_Client(Control_Kind kind) {
     return kind != Control_Kind::Menu && kind != Control_Kind::Timer;
 }
 
-/// As the window's table describes it.
-std::unique_ptr<Form> Make_Form(const Window& window) {
-    auto form = std::make_unique<Form>();
-    form->window = &window;
-    form->caption = window.caption;
-    form->client_width = Whole_Pixels(window.client_width);
-    form->client_height = Whole_Pixels(window.client_height);
-    form->user_bounds = {0, 0, static_cast<double>(window.client_width),
-                         static_cast<double>(window.client_height)};
-    form->device.state.pen_colour = window.fore_colour;
-    for (const Control& control : window.controls)
-        form->controls.push_back(Make_Control(window, control));
-    return form;
-}
-
 }  // namespace
 
-Form* Find_Form(const Window& window) {
-    for (const auto& form : forms) {
-        if (form->window == &window) return form.get();
+Form::Form(const Window& window)
+    : Live_Window(window),
+      client_width(Whole_Pixels(window.client_width)),
+      client_height(Whole_Pixels(window.client_height)) {
+    device.state.pen_colour = window.fore_colour;
+    controls.reserve(window.controls.size());
+    for (const Control& row : window.controls) {
+        Control_State& state = controls.emplace_back(*this, row);
+        state.container = Container_Of(window, row);
+        if (row.kind == Control_Kind::Drive) state.entries = drive_entries;
+        if (row.kind == Control_Kind::Folder) Move_Folder_List(state, Current_Folder());
+        rows.push_back(&state);
     }
-    return nullptr;
+    was_shown = true;
+    reported_size = Frame_Pixels();
 }
 
-Control_State* Find_State(Control_Ref control) {
-    Form* form = Find_Form(*control.window);
-    if (form == nullptr || control.index >= form->controls.size()) return nullptr;
-    return &form->controls[control.index];
+Window_State Form::State() const {
+    return minimised ? Window_State::Minimised : Window_State::Normal;
 }
 
-Control_State* Find_State(Control_Ref control, Control_Kind kind) {
-    Control_State* state = Find_State(control);
-    return state != nullptr && control.window->controls[control.index].kind == kind ? state
-                                                                                    : nullptr;
+Pixels Form::Frame_Pixels() const {
+    return {client_width + Frame_Width(table), client_height + Frame_Height(table)};
+}
+
+void Form::Place(int x, int y, int cx, int cy, unsigned flags) {
+    if ((flags & SWP_NOMOVE) == 0) {
+        left = x;
+        top = y;
+    }
+    if ((flags & SWP_NOSIZE) == 0) Resize_Form(*this, cx, cy);
 }
 
 int Frame_Width(const Window&) {
@@ -97,23 +77,25 @@ int Frame_Height(const Window& window) {
 }
 
 void Resize_Form(Form& form, int outer_width, int outer_height) {
-    const int width = std::max(outer_width - Frame_Width(*form.window), 0);
-    const int height = std::max(outer_height - Frame_Height(*form.window), 0);
+    const int width = std::max(outer_width - Frame_Width(form.table), 0);
+    const int height = std::max(outer_height - Frame_Height(form.table), 0);
     if (width == form.client_width && height == form.client_height) return;
     form.client_width = width;
     form.client_height = height;
-    Call(form.window->resize);
+    form.reported_size = form.Frame_Pixels();
+    Call(form.table.resize);
 }
 
 void Set_Minimised(Form& form, bool minimised) {
     if (form.minimised == minimised) return;
     form.minimised = minimised;
-    Call(form.window->resize);
+    form.reported_state = form.State();
+    Call(form.table.resize);
 }
 
 bool Is_Covered(const Form& form, int x, int y) {
     for (std::size_t i = 0; i < form.controls.size(); ++i) {
-        const Control& control = form.window->controls[i];
+        const Control& control = form.table.controls[i];
         if (form.controls[i].container != No_Container || !Is_Shown_On_Client(control.kind))
             continue;
         const int left = Whole_Pixels(control.at.left);
@@ -128,55 +110,8 @@ bool Is_Covered(const Form& form, int x, int y) {
 
 }  // namespace headless
 
-using headless::Find_Form;
-using headless::Form;
-using headless::forms;
-
-void Show(const Window& window) {
-    if (!Is_Loaded(window)) {
-        forms.push_back(headless::Make_Form(window));
-        headless::Call(window.load);
-    }
-    if (Form* form = Find_Form(window)) form->visible = true;  // its load may have ended it
-}
-
-void Unload(const Window& window) {
-    Form* form = Find_Form(window);
-    if (form == nullptr || form->unloading) return;
-    form->unloading = true;
-    headless::Call(window.unload);
-    std::erase_if(forms, [&window](const auto& each) { return each->window == &window; });
-}
-
-bool Is_Loaded(const Window& window) {
-    return Find_Form(window) != nullptr;
-}
-
-void Set_Caption(const Window& window, std::string_view caption) {
-    if (Form* form = Find_Form(window)) form->caption = caption;
-}
-
-void Set_Enabled(const Window& window, bool enabled) {
-    if (Form* form = Find_Form(window)) form->enabled = enabled;
-}
-
-void Repaint(const Window&) {}  // there is no screen to fall behind
-
-Window_State State_Of(const Window& window) {
-    const Form* form = Find_Form(window);
-    return form != nullptr && form->minimised ? Window_State::Minimised : Window_State::Normal;
-}
-
-void Minimise(const Window& window) {
-    if (Form* form = Find_Form(window)) headless::Set_Minimised(*form, true);
-}
-
-Size Outer_Size(const Window& window) {
-    const Form* form = Find_Form(window);
-    if (form == nullptr) return {};
-    const double width = form->client_width + headless::Frame_Width(window);
-    const double height = form->client_height + headless::Frame_Height(window);
-    return {width * headless::Twips_Per_Pixel, height * headless::Twips_Per_Pixel};
+common::Live_Window* common::Make_Window(const Window& table) {
+    return new headless::Form(table);
 }
 
 double Twips_To_Pixels_X(double twips) {
@@ -185,27 +120,6 @@ double Twips_To_Pixels_X(double twips) {
 
 double Twips_To_Pixels_Y(double twips) {
     return twips / headless::Twips_Per_Pixel;
-}
-
-void Erase(const Window& window) {
-    if (Form* form = Find_Form(window)) headless::Wipe(form->device);
-}
-
-void Set_User_Coordinates(const Window& window, double left, double top, double right,
-                          double bottom) {
-    if (Form* form = Find_Form(window)) form->user_bounds = {left, top, right, bottom};
-}
-
-void SetWindowPos(const Window& window, Insert_After after, int x, int y, int cx, int cy,
-                  unsigned flags) {
-    Form* form = Find_Form(window);
-    if (form == nullptr) return;
-    form->topmost = after == Insert_After::HWND_TOPMOST;
-    if ((flags & SWP_NOMOVE) == 0) {
-        form->left = x;
-        form->top = y;
-    }
-    if ((flags & SWP_NOSIZE) == 0) headless::Resize_Form(*form, cx, cy);
 }
 
 }  // namespace platform

@@ -45,7 +45,8 @@ std::string Value(double value) {
 }
 
 std::string Selected_Entry(const Control_State& state) {
-    return state.index < 0 ? std::string() : state.entries[static_cast<std::size_t>(state.index)];
+    return state.selected < 0 ? std::string()
+                              : state.entries[static_cast<std::size_t>(state.selected)];
 }
 
 std::string Text_Value(const Target& target) {
@@ -90,7 +91,7 @@ constexpr Control_Property control_properties[] = {
     {"value", Of({Check, Option, Progress}), Number_Value},
     {"min", Of({Progress}), [](const Target& t) { return Value(t.State().progress.minimum); }},
     {"max", Of({Progress}), [](const Target& t) { return Value(t.State().progress.maximum); }},
-    {"index", Listing, [](const Target& t) { return Value(t.State().index); }},
+    {"index", Listing, [](const Target& t) { return Value(t.State().selected); }},
     {"count", Listing, [](const Target& t) { return Value(Entry_Count(t.Ref())); }},
     {"interval", Of({Timer}), [](const Target& t) { return Value(t.State().interval); }},
     {"read_only", Of({Text}), [](const Target& t) { return Value(t.Row().read_only); }},
@@ -99,7 +100,7 @@ constexpr Control_Property control_properties[] = {
     {"bold", With_Font, [](const Target& t) { return Value(t.Row().font.bold); }},
     {"font", With_Font, Font_Value},
     {"font_size", With_Font, Font_Size_Value},
-    {"path", Of({Folder}), [](const Target& t) { return t.State().path; }},
+    {"path", Of({Folder}), [](const Target& t) { return t.State().folder; }},
     {"drive", Of({Drive}), [](const Target& t) { return Selected_Entry(t.State()); }},
 };
 
@@ -111,13 +112,13 @@ struct Window_Property {
 constexpr Window_Property window_properties[] = {
     {"caption", [](const Form& f) { return f.caption; }},
     {"visible", [](const Form& f) { return Value(f.visible); }},
-    {"enabled", [](const Form& f) { return Value(f.enabled); }},
-    {"topmost", [](const Form& f) { return Value(f.topmost); }},
+    {"enabled", [](const Form& f) { return Value(f.takes_input); }},
+    {"topmost", [](const Form& f) { return Value(f.is_topmost); }},
     {"state", [](const Form& f) { return std::string(f.minimised ? "minimised" : "normal"); }},
     {"left", [](const Form& f) { return Value(f.left); }},
     {"top", [](const Form& f) { return Value(f.top); }},
-    {"width", [](const Form& f) { return Value(f.client_width + Frame_Width(*f.window)); }},
-    {"height", [](const Form& f) { return Value(f.client_height + Frame_Height(*f.window)); }},
+    {"width", [](const Form& f) { return Value(f.Frame_Pixels().width); }},
+    {"height", [](const Form& f) { return Value(f.Frame_Pixels().height); }},
     {"client_width", [](const Form& f) { return Value(f.client_width); }},
     {"client_height", [](const Form& f) { return Value(f.client_height); }},
 };
@@ -162,14 +163,14 @@ void Advance_Clock(Arguments arguments, Reply& reply) {
 }
 
 void Tell_Forms(Arguments, Reply& reply) {
-    for (const auto& form : forms)
-        Add_Line(reply, form->window->name);
+    for (const Live_Window* window : Loaded_Windows())
+        Add_Line(reply, window->table.name);
 }
 
 void Tell_Controls(Arguments arguments, Reply& reply) {
     const Form* form = Form_Named(arguments[0], reply);
     if (form == nullptr) return;
-    for (const Control& control : form->window->controls)
+    for (const Control& control : form->table.controls)
         Add_Line(reply, std::string(control.name).append(" ").append(Kind_Name(control.kind)));
 }
 
@@ -179,14 +180,14 @@ void Tell_Items(Arguments arguments, Reply& reply) {
     if ((Of({target.Row().kind}) & Listing) == 0) {
         return Fail(reply, "this control has no entries");
     }
-    for (const std::string& entry : Entries_Of(target.Ref()))
+    for (const std::string& entry : target.State().entries)
         Add_Line(reply, entry);
 }
 
 constexpr Command commands[] = {
     {"advance", 1, Advance_Clock},
     {"clock", 0, [](Arguments, Reply& reply) { Add_Line(reply, std::to_string(Clock())); }},
-    {"running", 0, [](Arguments, Reply& reply) { Add_Line(reply, Is_Over() ? "no" : "yes"); },
+    {"running", 0, [](Arguments, Reply& reply) { Add_Line(reply, Is_Ending() ? "no" : "yes"); },
      true},
     {"forms", 0, Tell_Forms},
     {"controls", 1, Tell_Controls},

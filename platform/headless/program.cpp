@@ -5,40 +5,31 @@
 
 #include "platform/headless/form.h"
 #include "platform/headless/protocol.h"
-#include "platform/timers.h"
 
 namespace platform {
 
 namespace {
 
-using headless::Control_State;
-using headless::Find_State;
-
-bool end_called = false;
-bool over = false;
 std::int64_t now = 0;
 
-/// The timer that ticks next, its window null if none falls due up to `limit`.
-Control_Ref Next_Timer(std::int64_t limit) {
-    Control_Ref next{nullptr, 0};
-    for (const auto& form : headless::forms) {
-        for (std::size_t i = 0; i < form->controls.size(); ++i) {
-            const Control_State& timer = form->controls[i];
-            if (!timer.running || timer.interval == 0 || timer.due > limit) continue;
-            if (next.window != nullptr && timer.due == limit) continue;
-            next = {form->window, i};
-            limit = timer.due;
+/// The timer that ticks next; null if none falls due up to `limit`.
+common::Live_Control* Next_Timer(std::int64_t limit) {
+    common::Live_Control* next = nullptr;
+    for (const common::Live_Window* window : common::Loaded_Windows()) {
+        for (common::Live_Control* timer : window->rows) {
+            if (!timer->running || timer->interval == 0 || timer->due > limit) continue;
+            if (next != nullptr && timer->due == limit) continue;
+            next = timer;
+            limit = timer->due;
         }
     }
     return next;
 }
 
-void Tick(Control_Ref control) {
-    Control_State& timer = *Find_State(control);
+void Tick(common::Live_Control& timer) {
     now = std::max(now, timer.due);
     timer.due = now + timer.interval;
-    headless::Call(control.window->controls[control.index].handler);
-    headless::Settle();
+    common::Call(timer.row->handler);
 }
 
 /// False at the end of the input, unless a line without its line feed stands there.
@@ -53,28 +44,14 @@ bool Read_Line(std::string& line) {
 }  // namespace
 
 void headless::Begin(Handler start) {
-    forms.clear();
-    end_called = false;
-    over = false;
     now = 0;
     Reset_Surroundings();
     Reset_Printer();
     Reset_Link();
-    Call(start);
-    Settle();
+    common::Begin(start);
 }
 
-void headless::Call(Handler handler) {
-    if (handler != nullptr && !end_called) handler();
-}
-
-void headless::Settle() {
-    over = over || Has_Ended();
-}
-
-bool headless::Is_Over() {
-    return over;
-}
+void common::Leave_Loop() {}  // each command asks whether the program has ended
 
 int Run(int, char**, Handler start) {
     headless::Begin(start);
@@ -87,24 +64,16 @@ int Run(int, char**, Handler start) {
     return 0;
 }
 
-void End_Program() {
-    end_called = true;
-}
-
-bool Has_Ended() {
-    return end_called || headless::forms.empty();
-}
-
 std::int64_t headless::Clock() {
     return now;
 }
 
 void headless::Advance(std::int64_t milliseconds) {
     const std::int64_t target = now + milliseconds;
-    while (!Is_Over() && now <= target) {
-        const Control_Ref next = Next_Timer(target);
-        if (next.window == nullptr) break;
-        Tick(next);
+    while (!Is_Ending() && now <= target) {
+        common::Live_Control* next = Next_Timer(target);
+        if (next == nullptr) break;
+        Tick(*next);
     }
     now = std::max(now, target);
 }
@@ -113,27 +82,8 @@ void headless::Pass_Time(std::int64_t milliseconds) {
     now += milliseconds;
 }
 
-void Start_Timer(Control_Ref timer) {
-    Control_State* state = Find_State(timer, Control_Kind::Timer);
-    if (state == nullptr || state->running) return;
-    state->running = true;
-    state->due = now + state->interval;
-}
-
-void Stop_Timer(Control_Ref timer) {
-    if (Control_State* state = Find_State(timer, Control_Kind::Timer)) state->running = false;
-}
-
-bool Is_Running(Control_Ref timer) {
-    const Control_State* state = Find_State(timer, Control_Kind::Timer);
-    return state != nullptr && state->running;
-}
-
-void Set_Interval(Control_Ref timer, int milliseconds) {
-    Control_State* state = Find_State(timer, Control_Kind::Timer);
-    if (state == nullptr) return;
-    state->interval = std::max(milliseconds, 0);
-    state->due = now + state->interval;
+void headless::Control_State::Fit_Timer() {
+    due = now + interval;
 }
 
 }  // namespace platform

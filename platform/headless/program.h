@@ -15,15 +15,6 @@ namespace platform::headless {
 /// the back-end in their own process.
 void Begin(Handler start);
 
-/// Calls a handler; nothing for a null one, and once `End_Program` was called.
-void Call(Handler handler);
-
-/// To be called after each outermost handler and each command: notes whether the program has ended.
-void Settle();
-
-/// Whether the program has ended for good; it serves no event any more.
-bool Is_Over();
-
 /// The virtual clock, in milliseconds since the start of the program.
 std::int64_t Clock();
 

@@ -57,13 +57,12 @@ void Run_Line(std::string_view line, Reply& reply) {
     const auto command = std::find_if(commands.begin(), commands.end(),
                                       [verb](const Command& each) { return each.verb == verb; });
     if (command == commands.end()) return Fail(reply, "no such command");
-    if (Is_Over() && !command->after_the_end) return Fail(reply, "the program has ended");
+    if (Is_Ending() && !command->after_the_end) return Fail(reply, "the program has ended");
     const auto arguments = Split(line, command->argument_count);
     if (arguments.size() != command->argument_count) {
         return Fail(reply, "wrong number of arguments");
     }
     command->run(arguments, reply);
-    Settle();
 }
 
 }  // namespace
@@ -106,8 +105,8 @@ void Fail(Reply& reply, std::string_view reason) {
 }
 
 Form* Form_Named(std::string_view name, Reply& reply) {
-    for (const auto& form : forms) {
-        if (form->window->name == name) return form.get();
+    for (Live_Window* window : Loaded_Windows()) {
+        if (window->table.name == name) return static_cast<Form*>(window);
     }
     Fail_With_Name(reply, "no window", name);
     return nullptr;
@@ -119,7 +118,10 @@ Target Control_Named(std::string_view name, Reply& reply) {
     if (form == nullptr) return {};
     if (point != std::string_view::npos) {
         for (std::size_t i = 0; i < form->controls.size(); ++i) {
-            if (form->window->controls[i].name == name.substr(point + 1)) return {form, i};
+            if (form->table.controls[i].name != name.substr(point + 1)) continue;
+            Control_State& state = form->controls[i];
+            if (state.row->kind == Control_Kind::Folder) state.entries = Subfolders(state.folder);
+            return {form, i};
         }
     }
     Fail_With_Name(reply, "no control", name);
@@ -134,7 +136,7 @@ Target Control_Named(std::string_view name, Control_Kind kind, Reply& reply) {
 }
 
 bool Takes_Input(const Form& form, Reply& reply) {
-    const bool takes = form.visible && form.enabled;
+    const bool takes = form.visible && form.takes_input;
     if (!takes) Fail(reply, "disabled");
     return takes;
 }

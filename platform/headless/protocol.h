@@ -58,9 +58,9 @@ struct Target {
     std::size_t index = 0;
 
     explicit operator bool() const { return form != nullptr; }
-    const Control& Row() const { return form->window->controls[index]; }
+    const Control& Row() const { return form->table.controls[index]; }
     Control_State& State() const { return form->controls[index]; }
-    Control_Ref Ref() const { return {form->window, index}; }
+    Control_Ref Ref() const { return {&form->table, index}; }
 };
 
 // What arguments name. Each makes the reply an error if it finds nothing.

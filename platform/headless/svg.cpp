@@ -114,9 +114,14 @@ double Angle_Of(const Bounds& b, double x, double y) {
     return std::atan2((b.top + ry - y) / ry, (x - b.left - rx) / rx);
 }
 
+/// In thousandths: the last digits of a sine are not the same on every system. Never "-0".
+std::string Rounded(double value) {
+    return Number(std::nearbyint(value * 1000) / 1000 + 0.0);
+}
+
 std::string Point_At(const Bounds& b, double angle) {
-    return Number((b.left + b.right + (b.right - b.left) * std::cos(angle)) / 2) + " " +
-           Number((b.top + b.bottom - (b.bottom - b.top) * std::sin(angle)) / 2);
+    return Rounded((b.left + b.right + (b.right - b.left) * std::cos(angle)) / 2) + " " +
+           Rounded((b.top + b.bottom - (b.bottom - b.top) * std::sin(angle)) / 2);
 }
 
 std::string Arc_Element(const Drawing_Call& call) {

@@ -1,15 +1,8 @@
-#include "platform/windows/builder.h"
-
-#include <algorithm>
 #include <string_view>
 
 #include "platform/windows/canvas.h"
 #include "platform/windows/controls.h"
-#include "platform/windows/entry_combo.h"
-#include "platform/windows/folder_list.h"
 #include "platform/windows/measures.h"
-#include "platform/windows/text.h"
-#include "platform/windows/timers.h"
 
 namespace platform::windows {
 
@@ -85,10 +78,9 @@ void Build_Control(Live_Control& control, bool starts_group) {
     const Native_Kind kind = Kind_Of(control);
     if (kind.class_name == nullptr) return;
     const Control& row = *control.row;
-    const Live_Window& window = *control.window;
+    const Live_Window& window = control.Holder();
     const RECT& place = control.place;
     const auto id = First_Id + (&control - window.controls.data());
-    control.transparent = row.transparent;
     control.handle = CreateWindowExW(
         kind.extended_style, kind.class_name, L"",
         kind.style | WS_CHILD | WS_VISIBLE | (starts_group ? DWORD{WS_GROUP} : 0), place.left,
@@ -99,35 +91,29 @@ void Build_Control(Live_Control& control, bool starts_group) {
     if (row.kind == Control_Kind::Combo) Set_Up_Combo(control);
     if (row.kind == Control_Kind::Drive) Fill_Drives(control);
     if (row.kind == Control_Kind::Folder) Set_Up_Folder_List(control);
-    Show_First_Caption(control);
+    const bool has_text = row.kind == Control_Kind::Text || row.kind == Control_Kind::Combo;
+    has_text ? control.Show_Text() : control.Show_Caption();
     EnableWindow(control.handle, row.enabled);
-}
-
-/// The numbered rows go first, then the others by the table.
-std::vector<Live_Control*> Tab_Order(Live_Window& window) {
-    std::vector<Live_Control*> order;
-    for (Live_Control& control : window.controls)
-        order.push_back(&control);
-    std::stable_sort(order.begin(), order.end(), [](const Live_Control* a, const Live_Control* b) {
-        // As an unsigned number -1 comes behind all others.
-        return static_cast<unsigned>(a->row->tab_index) < static_cast<unsigned>(b->row->tab_index);
-    });
-    return order;
 }
 
 }  // namespace
 
 void Build_Controls(Live_Window& window) {
     bool in_options = false;
-    for (Live_Control* control : Tab_Order(window)) {
-        const Control& row = *control->row;
-        control->place = Place_Of(window, row);
-        control->font = Make_Font(row.font);
-        if (row.kind == Control_Kind::Timer) Begin_Timer(*control);
+    for (const std::size_t index : Tab_Order(window.table)) {
+        Live_Control& control = window.controls[index];
+        const Control& row = *control.row;
+        control.place = Place_Of(window, row);
+        control.font = Make_Font(row.font);
         const bool is_option = row.kind == Control_Kind::Option;
-        Build_Control(*control, !is_option || !in_options);
+        Build_Control(control, !is_option || !in_options);
         in_options = is_option;
     }
+}
+
+Live_Control* Control_Of_Id(Live_Window& window, int id) {
+    const auto index = static_cast<std::size_t>(id - First_Id);
+    return index < window.controls.size() ? &window.controls[index] : nullptr;
 }
 
 HBRUSH Back_Brush(Live_Window& window, HWND handle, HDC dc) {

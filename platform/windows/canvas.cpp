@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/windows/measures.h"
-#include "platform/windows/picture.h"
 
 namespace platform::windows {
 
@@ -72,16 +71,16 @@ void Fit_Canvas(Live_Window& window) {
         DeleteObject(old_bitmap);
     }
     window.device.has_changed = true;
-    Show_Drawing(window);
+    Show_Canvas(window);
 }
 
-void Wipe_Canvas(Live_Window& window) {
-    if (window.device.dc == nullptr) return;
-    Fill_All(window);
-    window.device.has_changed = true;
+void Live_Window::Wipe() {
+    if (device.dc == nullptr) return;
+    Fill_All(*this);
+    device.has_changed = true;
 }
 
-void Show_Drawing(Live_Window& window) {
+void Show_Canvas(Live_Window& window) {
     if (!window.device.has_changed) return;
     window.device.has_changed = false;
     InvalidateRect(window.handle, nullptr, FALSE);
@@ -102,7 +101,7 @@ void Paint_Canvas(Live_Window& window) {
 
 void Paint_Behind(const Live_Control& label, HDC dc) {
     const RECT& place = label.place;
-    BitBlt(dc, 0, 0, place.right - place.left, place.bottom - place.top, label.window->device.dc,
+    BitBlt(dc, 0, 0, place.right - place.left, place.bottom - place.top, label.Holder().device.dc,
            place.left, place.top, SRCCOPY);
 }
 

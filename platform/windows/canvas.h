@@ -10,16 +10,16 @@ namespace platform::windows {
 void Open_Canvas(Live_Window& window);
 void Close_Canvas(Live_Window& window);
 
-void Wipe_Canvas(Live_Window& window);
-
 /// Gives it the size of the client area: the picture stays, a new strip has the back colour.
 void Fit_Canvas(Live_Window& window);
 
-/// Lets the system show what has been drawn since the last time. Called when a handler has ended,
-/// so that the screen never shows half a picture.
-void Show_Drawing(Live_Window& window);
+/// Lets the system show what has been drawn since the last time.
+void Show_Canvas(Live_Window& window);
 
 void Paint_Canvas(Live_Window& window);
+
+/// The picture of the splash window: an airport on a chart.
+void Draw_Picture(HDC dc, const RECT& place);
 
 /// What of the picture lies behind a label, onto the label itself.
 void Paint_Behind(const Live_Control& label, HDC dc);

@@ -1,5 +1,3 @@
-#include "platform/windows/entry_combo.h"
-
 #include <algorithm>
 #include <numeric>
 
@@ -22,12 +20,6 @@ bool Is_Open(const Live_Control& combo) {
 
 HWND Edit_Of(const Live_Control& combo) {
     return GetWindow(combo.handle, GW_CHILD);
-}
-
-void Show_Text(Live_Control& combo, std::string_view text) {
-    combo.is_setting = true;
-    SetWindowTextW(combo.handle, To_Wide(text).c_str());
-    combo.is_setting = false;
 }
 
 /// Of the whole list, so that narrowing does not change it. Measuring takes long: only the longest
@@ -63,8 +55,15 @@ void Place_List(const Live_Control& combo) {
                    SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
 
+/// The window owns its list only while that is open: under Wine a window that owns another one
+/// cannot be put on top of all.
+void Own_List(const Live_Control& combo, HWND owner) {
+    SetWindowLongPtrW(combo.list, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+}
+
 void Open_List(Live_Control& combo) {
     open_combo = &combo;
+    Own_List(combo, combo.Holder().handle);
     SendMessageW(combo.list, LB_SETCOUNT, combo.matches.size(), 0);
     const auto picked = std::find(combo.matches.begin(), combo.matches.end(),
                                   static_cast<std::size_t>(combo.selected));
@@ -89,8 +88,8 @@ void Open_Whole_List(Live_Control& combo) {
 void Pick(Live_Control& combo, int place) {
     if (place < 0 || place >= static_cast<int>(combo.matches.size())) return;
     const std::size_t entry = combo.matches[static_cast<std::size_t>(place)];
-    combo.selected = static_cast<int>(entry);
-    Show_Text(combo, combo.entries[entry]);
+    Take_Pick(combo, static_cast<int>(entry));
+    Put_Text(combo);
     SendMessageW(Edit_Of(combo), EM_SETSEL, 0, -1);
 }
 
@@ -205,7 +204,8 @@ void Set_Up_Combo(Live_Control& combo) {
     combo.list = CreateWindowExW(
         WS_EX_TOOLWINDOW | WS_EX_TOPMOST | WS_EX_NOACTIVATE, L"LISTBOX", L"",
         WS_POPUP | WS_BORDER | WS_VSCROLL | LBS_NODATA | LBS_OWNERDRAWFIXED | LBS_NOINTEGRALHEIGHT,
-        0, 0, 0, 0, combo.window->handle, nullptr, GetModuleHandleW(nullptr), nullptr);
+        0, 0, 0, 0, combo.Holder().handle, nullptr, GetModuleHandleW(nullptr), nullptr);
+    Own_List(combo, nullptr);
     const LONG height = Text_Extent(Default_Font(), L"X").cy + 1;
     SendMessageW(combo.list, LB_SETITEMHEIGHT, 0, height);
     SetWindowSubclass(combo.handle, Box_Procedure, 0, reference);
@@ -213,16 +213,15 @@ void Set_Up_Combo(Live_Control& combo) {
     SetWindowSubclass(combo.list, List_Procedure, 0, reference);
 }
 
-void Set_Combo_Text(Live_Control& combo, std::string_view text) {
-    combo.selected = -1;
+void Show_Combo_Text(Live_Control& combo) {
     Close_List(combo);
-    Show_Text(combo, text);
+    Put_Text(combo);
     SendMessageW(Edit_Of(combo), EM_SETSEL, 0, 0);
 }
 
 void Narrow_Combo(Live_Control& combo) {
-    combo.selected = -1;
-    const std::string typed = Lower_Case(Window_Text(combo.handle));
+    Take_Typed(combo, Window_Text(combo.handle));
+    const std::string typed = Lower_Case(combo.text);
     combo.matches.clear();
     for (std::size_t i = 0; i < combo.entries.size(); ++i) {
         if (Lower_Case(combo.entries[i]).find(typed) != std::string::npos)
@@ -247,6 +246,7 @@ void Close_List(Live_Control& combo) {
     if (!Is_Open(combo)) return;
     open_combo = nullptr;
     ShowWindow(combo.list, SW_HIDE);
+    Own_List(combo, nullptr);
 }
 
 void Draw_Entry(const Live_Window& window, const DRAWITEMSTRUCT& item) {

@@ -1,15 +1,9 @@
-#include "platform/windows/folder_list.h"
-
-#include "platform/code_page.h"
-#include "platform/message_box.h"
-#include "platform/windows/handlers.h"
+#include "platform/windows/controls.h"
 #include "platform/windows/measures.h"
 #include "platform/windows/paths.h"
 #include "platform/windows/text.h"
 
-namespace platform {
-
-namespace windows {
+namespace platform::windows {
 
 namespace {
 
@@ -40,12 +34,15 @@ void Fill(Live_Control& list) {
         SendMessageW(list.handle, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
     };
     if (!Is_Root(whole)) add(L"..");
-    for (const std::wstring& name : list.subfolders)
+    list.entries.clear();
+    for (const std::wstring& name : list.subfolders) {
+        list.entries.push_back(From_Wide_Lossy(name));
         add(name.c_str());
+    }
     SendMessageW(list.handle, LB_SETCURSEL, 0, 0);
     SendMessageW(list.handle, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list.handle, nullptr, TRUE);
-    SetWindowTextW(list.caption, whole.c_str());
+    SetWindowTextW(list.path_line, whole.c_str());
 }
 
 /// False, changing nothing, if there is no such folder or it is the same.
@@ -55,14 +52,6 @@ bool Go_To(Live_Control& list, const std::wstring& whole) {
     list.folder = *text;
     Fill(list);
     return true;
-}
-
-void Refuse(const std::wstring& whole) {
-    const Handler_Scope scope;
-    Message_Box("The folder \"" + From_Wide_Lossy(whole) +
-                    "\" cannot be used, because its name holds characters that this program cannot "
-                    "write.",
-                Icon::Exclamation, Message_Title);
 }
 
 LRESULT CALLBACK List_Procedure(HWND handle, UINT message, WPARAM first, LPARAM second, UINT_PTR,
@@ -89,6 +78,7 @@ void Fill_Drives(Live_Control& list) {
             SendMessageW(list.handle, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
         if (here.starts_with(letter)) {
             SendMessageW(list.handle, CB_SETCURSEL, static_cast<WPARAM>(place), 0);
+            list.selected = static_cast<int>(place);
         }
     }
 }
@@ -97,10 +87,10 @@ void Set_Up_Folder_List(Live_Control& list) {
     const RECT& place = list.place;
     const LONG line = Text_Extent(Default_Font(), L"X").cy + 2;
     const int width = place.right - place.left;
-    list.caption = CreateWindowExW(
+    list.path_line = CreateWindowExW(
         0, L"STATIC", L"", WS_CHILD | WS_VISIBLE | SS_NOPREFIX | SS_PATHELLIPSIS, place.left,
-        place.top, width, line, list.window->handle, nullptr, GetModuleHandleW(nullptr), nullptr);
-    SendMessageW(list.caption, WM_SETFONT, reinterpret_cast<WPARAM>(Default_Font()), FALSE);
+        place.top, width, line, list.Holder().handle, nullptr, GetModuleHandleW(nullptr), nullptr);
+    SendMessageW(list.path_line, WM_SETFONT, reinterpret_cast<WPARAM>(Default_Font()), FALSE);
     MoveWindow(list.handle, place.left, place.top + line, width, place.bottom - place.top - line,
                FALSE);
     SetWindowSubclass(list.handle, List_Procedure, 0, reinterpret_cast<DWORD_PTR>(&list));
@@ -115,25 +105,15 @@ void Walk_Folder_List(Live_Control& list) {
     const std::wstring name = row < 0 ? L".." : list.subfolders[static_cast<std::size_t>(row)];
     const std::wstring there = Whole_Path(Joined(here, name));
     if (!From_Wide(there)) {
-        Refuse(there);
+        Refuse_Folder(From_Wide_Lossy(there));
     } else if (Go_To(list, there)) {
         Fire(list);
     }
 }
 
-}  // namespace windows
-
-std::string Folder_Path(Control_Ref control) {
-    const windows::Live_Control* list = windows::Find_Live(control, Control_Kind::Folder);
-    return list != nullptr ? list->folder : std::string();
-}
-
-void Set_Folder_Path(Control_Ref control, std::string_view path) {
-    windows::Live_Control* list = windows::Find_Live(control, Control_Kind::Folder);
-    if (list == nullptr) return;
+bool Live_Control::Go_To(std::string_view path) {
     // A drive's name alone is what the system takes it for: that drive's current folder.
-    const std::wstring wide = path.empty() ? L"." : windows::To_Wide(path);
-    if (windows::Go_To(*list, windows::Whole_Path(wide))) windows::Call(list->row->handler);
+    return windows::Go_To(*this, Whole_Path(path.empty() ? L"." : To_Wide(path)));
 }
 
-}  // namespace platform
+}  // namespace platform::windows

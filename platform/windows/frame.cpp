@@ -1,16 +1,16 @@
-#include "platform/windows/frame.h"
+#include <utility>
 
-#include "platform/windows/builder.h"
 #include "platform/windows/canvas.h"
-#include "platform/windows/handlers.h"
+#include "platform/windows/controls.h"
 #include "platform/windows/measures.h"
-#include "platform/windows/menus.h"
-#include "platform/windows/procedure.h"
+#include "platform/windows/program.h"
 #include "platform/windows/text.h"
 
 namespace platform::windows {
 
 namespace {
+
+std::vector<Live_Window*> retired;
 
 DWORD Style_Of(Frame_Style frame) {
     constexpr DWORD Captioned = WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
@@ -38,7 +38,7 @@ void Fit_Client(const Live_Window& window) {
     RECT client, frame;
     GetClientRect(window.handle, &client);
     GetWindowRect(window.handle, &frame);
-    const LONG missing = To_Pixels(window.table->client_height) - client.bottom;
+    const LONG missing = To_Pixels(window.table.client_height) - client.bottom;
     if (missing == 0) return;
     ::SetWindowPos(window.handle, nullptr, 0, 0, frame.right - frame.left,
                    frame.bottom - frame.top + missing, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -52,83 +52,101 @@ void Centre(HWND window, SIZE size) {
                    SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-Window_State State_Of(const Live_Window& window) {
-    return IsIconic(window.handle) ? Window_State::Minimised : Window_State::Normal;
+/// A caption that was condensed has a font of its own.
+void Drop_Narrow_Font(const Live_Control& control) {
+    if (control.handle == nullptr) return;
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(control.handle, WM_GETFONT, 0, 0));
+    if (font != nullptr && font != control.font && font != Default_Font()) DeleteObject(font);
 }
 
 }  // namespace
 
-std::unique_ptr<Live_Window> Make_Window(const Window& table) {
-    auto window = std::make_unique<Live_Window>();
-    window->table = &table;
-    window->user_bounds = {0, 0, static_cast<double>(table.client_width),
-                           static_cast<double>(table.client_height)};
-    window->device.pen_colour = table.fore_colour;
-    window->back_brush = CreateSolidBrush(Native_Colour(table.back_colour));
-    for (const Control& row : table.controls) {
-        Live_Control control;
-        control.window = window.get();
-        control.row = &row;
-        window->controls.push_back(std::move(control));
-    }
+Live_Window::Live_Window(const Window& window)
+    : common::Live_Window(window), back_brush(CreateSolidBrush(Native_Colour(table.back_colour))) {
+    device.pen_colour = table.fore_colour;
+    controls.reserve(table.controls.size());
+    for (const Control& row : table.controls)
+        rows.push_back(&controls.emplace_back(*this, row));
     const DWORD style = Style_Of(table.frame);
-    const HMENU menu_bar = Build_Menus(*window);
+    const HMENU menu_bar = Build_Menus(*this);
     const SIZE size = Frame_Size(table, style, menu_bar);
-    window->handle = CreateWindowExW(0, Window_Class(), To_Wide(table.caption).c_str(), style,
-                                     CW_USEDEFAULT, CW_USEDEFAULT, size.cx, size.cy, nullptr,
-                                     menu_bar, GetModuleHandleW(nullptr), window.get());
-    if (table.frame == Frame_Style::Splash) Centre(window->handle, size);
-    Fit_Client(*window);
-    Build_Controls(*window);
-    return window;
+    handle = CreateWindowExW(0, Window_Class(), To_Wide(caption).c_str(), style, CW_USEDEFAULT,
+                             CW_USEDEFAULT, size.cx, size.cy, nullptr, menu_bar,
+                             GetModuleHandleW(nullptr), this);
+    if (table.frame == Frame_Style::Splash) Centre(handle, size);
+    Fit_Client(*this);
+    Build_Controls(*this);
 }
 
-void Present(Live_Window& window) {
-    if (!window.was_shown) {
-        Open_Canvas(window);
-        window.reported_size = Outer_Pixels(window);
-        window.was_shown = true;
+Live_Window::~Live_Window() {
+    for (Live_Control& control : controls) {
+        if (control.list != nullptr) DestroyWindow(control.list);
+        Drop_Narrow_Font(control);
     }
-    ShowWindow(window.handle, SW_SHOW);
-    SetForegroundWindow(window.handle);
-    UpdateWindow(window.handle);
+    SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
+    DestroyWindow(handle);
+    for (Live_Control& control : controls) {
+        if (control.font != nullptr) DeleteObject(control.font);
+    }
+    Close_Canvas(*this);
+    DeleteObject(back_brush);
 }
 
-void Dismiss(Live_Window& window) {
-    if (window.is_unloading) return;
-    window.is_unloading = true;
-    Call(window.table->unload);
-    for (Live_Control& control : window.controls)
-        control.running = false;
-    SendMessageW(window.handle, WM_CANCELMODE, 0, 0);
-    Retire_Window(window);
+void Live_Window::Present() {
+    if (!was_shown) {
+        Open_Canvas(*this);
+        reported_size = Frame_Pixels();
+        was_shown = true;
+    }
+    ShowWindow(handle, SW_SHOW);
+    SetForegroundWindow(handle);
+    UpdateWindow(handle);
 }
 
-void Minimise_Now(Live_Window& window) {
-    if (!window.was_shown || State_Of(window) == Window_State::Minimised) return;
-    const Handler_Scope scope;
-    window.reported_size = Outer_Pixels(window);
-    window.reported_state = Window_State::Minimised;
-    ShowWindow(window.handle, SW_MINIMIZE);
-    Call(window.table->resize);
+void Live_Window::Retire() {
+    SendMessageW(handle, WM_CANCELMODE, 0, 0);
+    retired.push_back(this);
 }
 
-SIZE Outer_Pixels(const Live_Window& window) {
-    if (State_Of(window) == Window_State::Minimised) return window.reported_size;
+void Live_Window::Show_Caption() {
+    SetWindowTextW(handle, To_Wide(caption).c_str());
+}
+
+void Live_Window::Show_Drawing() {
+    for (const Live_Window* window : retired)
+        ShowWindow(window->handle, SW_HIDE);
+    Show_Canvas(*this);
+}
+
+void Live_Window::Repaint() {
+    RedrawWindow(handle, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+Window_State Live_Window::State() const {
+    return IsIconic(handle) ? Window_State::Minimised : Window_State::Normal;
+}
+
+Pixels Live_Window::Frame_Pixels() const {
     RECT frame;
-    GetWindowRect(window.handle, &frame);
+    GetWindowRect(handle, &frame);
     return {frame.right - frame.left, frame.bottom - frame.top};
 }
 
-void Report_Size(Live_Window& window) {
-    if (!window.was_shown || window.is_unloading || Is_Busy()) return;
-    const Window_State state = State_Of(window);
-    const SIZE size = Outer_Pixels(window);
-    const SIZE& known = window.reported_size;
-    if (state == window.reported_state && size.cx == known.cx && size.cy == known.cy) return;
-    window.reported_state = state;
-    window.reported_size = size;
-    On_Event([&window] { Call(window.table->resize); });
+// Without a change of the focus: the simulator has it while the chart comes above it.
+void Live_Window::Place(int x, int y, int cx, int cy, unsigned flags) {
+    const auto place = reinterpret_cast<HWND>(LONG_PTR{is_topmost ? -1 : -2});
+    ::SetWindowPos(handle, place, x, y, cx, cy, flags | SWP_NOACTIVATE);
+    Report_Size();
+}
+
+void Destroy_Retired() {
+    if (Is_Busy()) return;
+    for (const Live_Window* window : std::exchange(retired, {}))
+        delete window;
 }
 
 }  // namespace platform::windows
+
+platform::common::Live_Window* platform::common::Make_Window(const Window& table) {
+    return new windows::Live_Window(table);
+}

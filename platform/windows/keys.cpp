@@ -2,8 +2,7 @@
 
 #include <array>
 
-#include "platform/windows/keys.h"
-#include "platform/windows/native.h"
+#include "platform/windows/program.h"
 
 // The keyboard tells each key's way down and up itself, whoever has the focus. The system's own
 // answer to "was it pressed" goes to the program that asks first, and the simulator asks too.

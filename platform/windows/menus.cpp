@@ -1,7 +1,3 @@
-#include "platform/windows/menus.h"
-
-#include <string_view>
-
 #include "platform/windows/controls.h"
 
 namespace platform::windows {
@@ -30,7 +26,7 @@ HMENU Entries_Of(const Live_Window& window, std::string_view title) {
 }
 
 UINT Id_Of(const Live_Control& entry) {
-    return static_cast<UINT>(First_Id + (&entry - entry.window->controls.data()));
+    return static_cast<UINT>(First_Id + (&entry - entry.Holder().controls.data()));
 }
 
 }  // namespace
@@ -39,19 +35,20 @@ HMENU Build_Menus(Live_Window& window) {
     return Entries_Of(window, "");
 }
 
-void Set_Menu_Caption(const Live_Control& entry, std::string_view caption) {
-    std::wstring text = Escaped_Caption(caption);
+void Show_Menu_Caption(const Live_Control& entry) {
+    std::wstring text = Escaped_Caption(entry.caption);
     MENUITEMINFOW item{};
     item.cbSize = sizeof item;
     item.fMask = MIIM_STRING;
     item.dwTypeData = text.data();
-    SetMenuItemInfoW(GetMenu(entry.window->handle), Id_Of(entry), FALSE, &item);
-    DrawMenuBar(entry.window->handle);
+    SetMenuItemInfoW(GetMenu(entry.Holder().handle), Id_Of(entry), FALSE, &item);
+    DrawMenuBar(entry.Holder().handle);
 }
 
-void Enable_Menu(const Live_Control& entry, bool enabled) {
-    EnableMenuItem(GetMenu(entry.window->handle), Id_Of(entry), enabled ? MF_ENABLED : MF_GRAYED);
-    DrawMenuBar(entry.window->handle);
+void Enable_Menu(const Live_Control& entry) {
+    EnableMenuItem(GetMenu(entry.Holder().handle), Id_Of(entry),
+                   entry.enabled ? MF_ENABLED : MF_GRAYED);
+    DrawMenuBar(entry.Holder().handle);
 }
 
 }  // namespace platform::windows

@@ -1,12 +1,8 @@
 #include "platform/message_box.h"
 
-#include <algorithm>
-#include <vector>
-
-#include "platform/windows/handlers.h"
 #include "platform/windows/live.h"
+#include "platform/windows/program.h"
 #include "platform/windows/text.h"
-#include "platform/windows/timers.h"
 
 namespace platform {
 
@@ -27,7 +23,8 @@ UINT Native_Icon(Icon icon) {
 HWND Owner() {
     HWND owner = nullptr;
     const HWND active = GetActiveWindow();
-    for (const auto& window : windows::Loaded_Windows()) {
+    for (const auto* each : windows::Loaded_Windows()) {
+        const auto* window = static_cast<const windows::Live_Window*>(each);
         if (!IsWindowVisible(window->handle) || IsIconic(window->handle)) continue;
         if (window->handle == active) return active;
         owner = window->handle;
@@ -37,21 +34,24 @@ HWND Owner() {
 
 /// The box disables its owner; the other windows take no input either while it stands.
 void Set_Input(bool enabled) {
-    for (const auto& window : windows::Loaded_Windows())
-        EnableWindow(window->handle, enabled && window->takes_input);
+    for (const auto* window : windows::Loaded_Windows()) {
+        EnableWindow(static_cast<const windows::Live_Window*>(window)->handle,
+                     enabled && window->takes_input);
+    }
 }
 
 }  // namespace
 
 void Message_Box(std::string_view text, Icon icon, std::string_view title) {
-    windows::Show_Drawings();
-    const auto& loaded = windows::Loaded_Windows();
-    const bool is_topmost = std::any_of(loaded.begin(), loaded.end(),
-                                        [](const auto& window) { return window->is_topmost; });
+    bool is_topmost = false;
+    for (common::Live_Window* window : windows::Loaded_Windows()) {
+        is_topmost = is_topmost || window->is_topmost;
+        window->Show_Drawing();
+    }
     const UINT style =
         MB_OK | MB_SETFOREGROUND | Native_Icon(icon) | (is_topmost ? MB_TOPMOST : 0U);
     {
-        const windows::Box_Scope scope;
+        const windows::Handler_Scope scope;
         const HWND owner = Owner();
         Set_Input(false);
         MessageBoxW(owner, windows::To_Wide(text).c_str(), windows::To_Wide(title).c_str(), style);

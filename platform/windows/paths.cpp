@@ -63,6 +63,7 @@ DWORD Attributes_Of(const std::wstring& native) {
 }
 
 std::optional<std::vector<std::wstring>> Names_In(const std::wstring& native, Entry_Kind kind) {
+    if (native.empty()) return std::nullopt;
     std::vector<std::wstring> names;
     const std::wstring folder = native.ends_with(L'\\') ? native : native + L'\\';
     WIN32_FIND_DATAW entry;

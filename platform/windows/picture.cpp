@@ -1,9 +1,9 @@
-#include "platform/windows/picture.h"
-
 #include <cmath>
 #include <numbers>
 #include <span>
 #include <vector>
+
+#include "platform/windows/canvas.h"
 
 namespace platform::windows {
 

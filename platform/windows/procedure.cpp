@@ -1,14 +1,8 @@
-#include "platform/windows/procedure.h"
-
 #include <algorithm>
 
-#include "platform/windows/builder.h"
 #include "platform/windows/canvas.h"
 #include "platform/windows/controls.h"
-#include "platform/windows/entry_combo.h"
-#include "platform/windows/frame.h"
-#include "platform/windows/handlers.h"
-#include "platform/windows/timers.h"
+#include "platform/windows/program.h"
 
 namespace platform::windows {
 
@@ -30,23 +24,19 @@ bool Is_Covered(const Live_Window& window, POINT place) {
     });
 }
 
-void Take_Press(Live_Window& window, Mouse_Button button, LPARAM parameter) {
+void Take_Press(const Live_Window& window, Mouse_Button button, LPARAM parameter) {
     const POINT place{static_cast<short>(LOWORD(parameter)), static_cast<short>(HIWORD(parameter))};
-    const Mouse_Handler handler = window.table->mouse_down;
-    if (handler == nullptr || Is_Covered(window, place)) return;
-    const auto [left, top, right, bottom] = window.user_bounds;
+    if (Is_Covered(window, place)) return;
     RECT client;
     GetClientRect(window.handle, &client);
-    const double x = left + place.x * (right - left) / client.right;
-    const double y = top + place.y * (bottom - top) / client.bottom;
-    On_Event([&] { handler(button, static_cast<float>(x), static_cast<float>(y)); });
+    window.Take_Press(button, place.x, place.y, {client.right, client.bottom});
 }
 
 void Take_Command(Live_Window& window, WPARAM parameter, bool from_control) {
     Live_Control* control = Control_Of_Id(window, LOWORD(parameter));
     if (control == nullptr) return;
     if (!from_control) return Fire(*control);
-    if (window.table->takes_keys) SetFocus(window.handle);
+    if (window.table.takes_keys) SetFocus(window.handle);
     Take_Notice(*control, HIWORD(parameter));
 }
 
@@ -66,7 +56,7 @@ void Keep_Focus(Live_Window& window, bool active) {
 }
 
 void Give_Focus(const Live_Window& window) {
-    if (window.table->takes_keys) return;
+    if (window.table.takes_keys) return;
     HWND focus = window.focus;
     if (focus == nullptr) focus = GetNextDlgTabItem(window.handle, nullptr, FALSE);
     if (focus != nullptr) SetFocus(focus);
@@ -122,10 +112,10 @@ LRESULT Take(Live_Window& window, UINT message, WPARAM first, LPARAM second) {
             return 1;
         case WM_SIZE:
             if (window.was_shown && first != SIZE_MINIMIZED) Fit_Canvas(window);
-            Report_Size(window);
+            window.Report_Size();
             return 0;
         case WM_CLOSE:
-            On_Event([&window] { Dismiss(window); });
+            On_Event([&window] { window.Dismiss(); });
             return 0;
         case WM_ACTIVATE:
             Keep_Focus(window, LOWORD(first) != WA_INACTIVE);
@@ -162,9 +152,8 @@ LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM first, LPARAM secon
 }
 
 bool Takes_Keys(HWND top) {
-    const auto& loaded = Loaded_Windows();
-    return std::any_of(loaded.begin(), loaded.end(), [top](const auto& window) {
-        return window->handle == top && window->table->takes_keys;
+    return std::ranges::any_of(Loaded_Windows(), [top](const auto* window) {
+        return static_cast<const Live_Window*>(window)->handle == top && window->table.takes_keys;
     });
 }
 

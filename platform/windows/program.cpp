@@ -4,12 +4,7 @@
 #include <clocale>
 
 #include "platform/program.h"
-#include "platform/windows/entry_combo.h"
-#include "platform/windows/handlers.h"
-#include "platform/windows/keys.h"
 #include "platform/windows/live.h"
-#include "platform/windows/procedure.h"
-#include "platform/windows/timers.h"
 
 namespace platform {
 
@@ -26,11 +21,10 @@ void Set_Up() {
 }
 
 void Begin(Handler start) {
-    Destroy_Windows();
-    Reset_Life();
+    MSG quit;
+    PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
     Forget_Keys();
-    const Handler_Scope scope;
-    start();
+    common::Begin(start);
 }
 
 void Serve(unsigned long most_wait) {
@@ -48,6 +42,11 @@ void Serve(unsigned long most_wait) {
 }
 
 }  // namespace windows
+
+// Ends the loops of a menu or of a window that is being dragged too.
+void common::Leave_Loop() {
+    PostQuitMessage(0);
+}
 
 int Run(int, char**, Handler start) {
     windows::Set_Up();

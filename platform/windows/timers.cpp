@@ -1,20 +1,16 @@
-#include "platform/windows/timers.h"
-
 #include <algorithm>
 
-#include "platform/timers.h"
-#include "platform/windows/handlers.h"
+#include "platform/windows/live.h"
+#include "platform/windows/program.h"
 
-namespace platform {
-
-namespace windows {
+namespace platform::windows {
 
 namespace {
 
 /// A timer of fewer milliseconds is one that asks again and again. Its interval is stretched, so
 /// that it leaves the processor to others; nobody holds a key for less than that.
 constexpr int Shortest_Interval = 5;
-constexpr int Asking_Interval = 10;
+constexpr int Asking_Interval = 20;
 
 /// The system wakes a program at every 64th of a second, if nobody asks for better. It is asked
 /// while a timer runs that needs it, for it costs power.
@@ -32,27 +28,27 @@ std::int64_t Clock() {
     return count.QuadPart / (frequency / 1000);
 }
 
-int Interval_Of(const Live_Control& timer) {
+int Interval_Of(const common::Live_Control& timer) {
     return timer.interval < Shortest_Interval ? Asking_Interval : timer.interval;
 }
 
-bool Ticks(const Live_Control& timer) {
+bool Ticks(const common::Live_Control& timer) {
     return timer.running && timer.interval > 0;
 }
 
 /// Calls `visit` for each timer that ticks.
 template <typename Visit>
 void For_Each_Timer(Visit visit) {
-    for (const auto& window : Loaded_Windows()) {
-        for (Live_Control& control : window->controls) {
-            if (Ticks(control)) visit(control);
+    for (const common::Live_Window* window : Loaded_Windows()) {
+        for (common::Live_Control* control : window->rows) {
+            if (Ticks(*control)) visit(*control);
         }
     }
 }
 
-Live_Control* Next_Timer() {
-    Live_Control* next = nullptr;
-    For_Each_Timer([&next](Live_Control& timer) {
+common::Live_Control* Next_Timer() {
+    common::Live_Control* next = nullptr;
+    For_Each_Timer([&next](common::Live_Control& timer) {
         if (next == nullptr || timer.due < next->due) next = &timer;
     });
     return next;
@@ -62,7 +58,7 @@ Live_Control* Next_Timer() {
 void Fit_Clock() {
     static bool is_fine = false;
     bool wants_fine = false;
-    For_Each_Timer([&wants_fine](const Live_Control& timer) {
+    For_Each_Timer([&wants_fine](const common::Live_Control& timer) {
         wants_fine =
             wants_fine || (timer.interval >= Shortest_Interval && timer.interval < Coarse_Interval);
     });
@@ -75,24 +71,18 @@ void Fit_Clock() {
     }
 }
 
-void Start_Interval(Live_Control& timer) {
-    timer.due = Clock() + Interval_Of(timer);
-    Fit_Clock();
-}
-
 }  // namespace
 
-void Begin_Timer(Live_Control& timer) {
-    timer.interval = std::max(timer.row->interval, 0);
-    timer.running = timer.row->enabled;
-    Start_Interval(timer);
+void Live_Control::Fit_Timer() {
+    due = Clock() + Interval_Of(*this);
+    Fit_Clock();
 }
 
 void Run_Due_Timers() {
     // What a handler starts is not due before this time; what has fallen behind ticks once.
     const std::int64_t now = Clock();
     while (!Is_Busy()) {
-        Live_Control* timer = Next_Timer();
+        common::Live_Control* timer = Next_Timer();
         if (timer == nullptr || timer->due > now) return;
         timer->due = std::max(timer->due + Interval_Of(*timer), now + 1);
         Fire(*timer);
@@ -100,45 +90,17 @@ void Run_Due_Timers() {
 }
 
 DWORD Time_To_Next_Tick() {
-    const Live_Control* timer = Next_Timer();
+    const common::Live_Control* timer = Next_Timer();
     if (timer == nullptr) return INFINITE;
     return static_cast<DWORD>(std::max<std::int64_t>(timer->due - Clock(), 0));
 }
 
 void Drop_Due_Ticks() {
     const std::int64_t now = Clock();
-    For_Each_Timer([now](Live_Control& timer) {
+    For_Each_Timer([now](common::Live_Control& timer) {
         const int interval = Interval_Of(timer);
         if (timer.due <= now) timer.due = now + interval - (now - timer.due) % interval;
     });
 }
 
-}  // namespace windows
-
-void Start_Timer(Control_Ref timer) {
-    windows::Live_Control* live = windows::Find_Live(timer, Control_Kind::Timer);
-    if (live == nullptr || live->running) return;
-    live->running = true;
-    windows::Start_Interval(*live);
-}
-
-void Stop_Timer(Control_Ref timer) {
-    windows::Live_Control* live = windows::Find_Live(timer, Control_Kind::Timer);
-    if (live == nullptr) return;
-    live->running = false;
-    windows::Fit_Clock();
-}
-
-bool Is_Running(Control_Ref timer) {
-    const windows::Live_Control* live = windows::Find_Live(timer, Control_Kind::Timer);
-    return live != nullptr && live->running;
-}
-
-void Set_Interval(Control_Ref timer, int milliseconds) {
-    windows::Live_Control* live = windows::Find_Live(timer, Control_Kind::Timer);
-    if (live == nullptr) return;
-    live->interval = std::max(milliseconds, 0);
-    windows::Start_Interval(*live);
-}
-
-}  // namespace platform
+}  // namespace platform::windows

@@ -1,3 +1,5 @@
+#include <cstddef>
+#include <cstring>
 #include <string>
 
 #include "platform/files.h"
@@ -43,29 +45,45 @@ void Remove_Leftovers_Of(const std::wstring& native) {
     }
 }
 
-bool Fill(const std::wstring& temporary, std::span<const std::uint8_t> bytes) {
-    const File_Handle file(CreateFileW(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                       FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file.Is_Open()) return false;
+bool Fill(const File_Handle& file, std::span<const std::uint8_t> bytes) {
     DWORD written = 0;
     const auto size = static_cast<DWORD>(bytes.size());
     return WriteFile(file.Get(), bytes.data(), size, &written, nullptr) && written == size &&
            FlushFileBuffers(file.Get());
 }
 
-/// A program that watches files (a virus scanner, say) may hold the old one for a moment.
-bool Replace(const std::wstring& temporary, const std::wstring& native) {
+/// Gives an open file another name, over the file that has it. A program that watches files (a
+/// virus scanner, say) may hold the old one for a moment.
+bool Rename(const File_Handle& file, const std::wstring& native) {
     constexpr int Tries = 10;
     constexpr DWORD Between_Tries = 50;  // milliseconds
+    FILE_RENAME_INFO head{};
+    head.ReplaceIfExists = TRUE;
+    head.FileNameLength = static_cast<DWORD>(native.size() * sizeof(wchar_t));
+    std::vector<char> request(sizeof head + head.FileNameLength);
+    std::memcpy(request.data(), &head, sizeof head);
+    std::memcpy(request.data() + offsetof(FILE_RENAME_INFO, FileName), native.data(),
+                head.FileNameLength);
     for (int i = 0; i < Tries; ++i) {
         if (i > 0) ::Sleep(Between_Tries);
-        if (MoveFileExW(temporary.c_str(), native.c_str(),
-                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+        if (SetFileInformationByHandle(file.Get(), FileRenameInfo, request.data(),
+                                       static_cast<DWORD>(request.size()))) {
             return true;
         }
-        if (::GetLastError() != ERROR_SHARING_VIOLATION) return false;
+        const DWORD error = ::GetLastError();
+        if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) return false;
     }
     return false;
+}
+
+/// Nothing, or the reason of the failure. The file is open to nobody else until it has its name,
+/// which is on the disk then.
+std::optional<DWORD> Write(const std::wstring& temporary, const std::wstring& native,
+                           std::span<const std::uint8_t> bytes) {
+    const File_Handle file(CreateFileW(temporary.c_str(), GENERIC_WRITE | DELETE, 0, nullptr,
+                                       CREATE_ALWAYS, FILE_FLAG_WRITE_THROUGH, nullptr));
+    if (file.Is_Open() && Fill(file, bytes) && Rename(file, native)) return std::nullopt;
+    return ::GetLastError();
 }
 
 std::string Words_Of(DWORD error) {
@@ -84,10 +102,10 @@ std::string Write_File(std::string_view path, std::span<const std::uint8_t> byte
     const std::wstring temporary =
         native + L"." + std::to_wstring(::GetCurrentProcessId()) + L".tmp";
     Remove_Leftovers_Of(native);
-    if (Fill(temporary, bytes) && Replace(temporary, native)) return {};
-    const DWORD reason = ::GetLastError();
+    const auto reason = Write(temporary, native, bytes);
+    if (!reason) return {};
     DeleteFileW(temporary.c_str());
-    return Words_Of(reason);
+    return Words_Of(*reason);
 }
 
 void Remove_Leftovers(std::string_view path) {

@@ -7,7 +7,6 @@
 #include "platform/desktop/program.h"
 #include "platform/desktop/scale.h"
 #include "platform/desktop/windows/window_widget.h"
-#include "platform/desktop/windows/windows.h"
 #include "tests/conformance/driver.h"
 
 namespace driver {

@@ -30,7 +30,7 @@ void Start(Handler start) {
 }
 
 bool Running() {
-    return !headless::Is_Over();
+    return !headless::Is_Ending();
 }
 
 void Advance(int milliseconds) {
@@ -96,7 +96,7 @@ std::string Focus(const Window&) {
 
 Frame Frame_Of(const Window& window) {
     const headless::Form* form = headless::Find_Form(window);
-    return {form->left, form->top, form->topmost};
+    return {form->left, form->top, form->is_topmost};
 }
 
 std::vector<Message> Take_Messages() {
@@ -121,7 +121,7 @@ Colour Pixel(const Window& window, int x, int y) {
         }
     }
     for (std::size_t i = 0; i < window.controls.size(); ++i) {
-        const auto* label = headless::Find_State({&window, i}, Control_Kind::Label);
+        const auto* label = common::Find_Live({&window, i}, Control_Kind::Label);
         const auto& [left, top, width, height] = window.controls[i].at;
         if (label != nullptr && !label->transparent && x * 15 >= left && x * 15 < left + width &&
             y * 15 >= top && y * 15 < top + height) {

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 #include <utility>
 
-#include "platform/windows/frame.h"
-#include "platform/windows/handlers.h"
 #include "platform/windows/live.h"
 #include "platform/windows/program.h"
 #include "platform/windows/text.h"

@@ -48,7 +48,7 @@ keys space   # which must not press it once more
 click 140 100
 window 'Keyboard assigments'
 click 236 208
-key=$(od -An -td4 -j $((35 + ${#folder} + 7)) -N 4 skerrand_config.cfg)
+key=$(tail -c 12 skerrand_config.cfg | od -An -td4 -N 4)
 [ "$key" -eq 32 ] || fail "the space bar is not in the settings, but $key"
 
 id=$departure

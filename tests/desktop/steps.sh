@@ -16,10 +16,20 @@ done
 pixels() { import -window "$1" -depth 8 txt:- | grep -c "#$2"; }
 green=00C000 # as runways and the aircraft are
 
+# Under Wine a signal is none that the program sees.
+close_active() {
+    keys alt+F4
+    [ ! -e "/proc/$program/exe" ]
+}
+
 # Ends the program by a signal, as the closing of its windows would, and waits for that.
 end_by() {
-    kill "-$1" $program
-    wait_for "SIG$1 does not end the program" test ! -e "/proc/$program/exe"
+    if [ -n "${UNDER_WINE:-}" ]; then
+        wait_for "its closed windows do not end the program" close_active
+    else
+        kill "-$1" $program
+        wait_for "SIG$1 does not end the program" test ! -e "/proc/$program/exe"
+    fi
     wait $program || fail "exit status $? after SIG$1"
 }
 

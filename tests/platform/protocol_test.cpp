@@ -5,6 +5,7 @@
 #include <set>
 #include <sstream>
 
+#include "platform/common/handlers.h"
 #include "platform/controls.h"
 #include "platform/drawing.h"
 #include "platform/headless/program.h"
@@ -129,8 +130,10 @@ TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
 
 TEST_F(Protocol, Drives_Stand_In_Windows_Already_Loaded) {
     Expect({"drives c: [SYSTEM]|d: =", "items Form9.Drive1 ="});
-    Unload(Sample);
-    Show(Sample);
+    common::On_Event([] {
+        Unload(Sample);
+        Show(Sample);
+    });
     Expect({"items Form9.Drive1 = c: [SYSTEM]\nd:", "drive Form9.Drive1 1 =",
             "get Form9.Drive1.drive = d:"});
 }

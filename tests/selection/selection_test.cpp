@@ -1,3 +1,4 @@
+#include <cmath>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -104,6 +105,24 @@ TEST(Geodesy, AngleOutsideItsRange) {
     EXPECT_EQ(Wrap_Degrees(360), 360);
     EXPECT_EQ(Wrap_Degrees(-1), 359);
     EXPECT_EQ(Wrap_Degrees(800), 440) << "at most one turn";
+}
+
+TEST(Geodesy, TheSameFunctionsOfAnglesOnEverySystem) {
+    struct Case {
+        double (*function)(double);
+        double of, value;
+    };
+    const volatile Case cases[] = {
+        {std::sin, 3.14159265358979, 3.2310891488651735e-15},  // where a short pi shows
+        {std::sin, -6.28318530717958, 6.4621782977303469e-15},
+        {std::sin, 1e5, 0.03574879797201651},
+        {std::cos, 1.570796326794895, 1.6155445744325867e-15},
+        {std::cos, -2.5, -0.8011436155469337},
+        {std::atan, 0.594, 0.5359960552202917},
+        {std::atan, 0.274, 0.26743628138366421},
+        {std::atan, -0.388, -0.37011893909174437}};
+    for (const volatile Case& it : cases)
+        EXPECT_EQ(it.function(it.of), it.value) << it.of;
 }
 
 TEST(Geodesy, DistancesAndTheirLimits) {

@@ -16,8 +16,8 @@ export WINEPREFIX=$(dirname "$bin")/wine-screen
 openbox --sm-disable > /dev/null 2>&1 &
 manager=$!
 programs=$(mktemp -d)
-export ON_OWN_SCREEN=yes cups printed
-trap 'wineserver -k; kill $manager; end_printing; rm -rf "$programs"' EXIT
+export ON_OWN_SCREEN=yes UNDER_WINE=yes cups printed
+trap 'wineserver -k; kill $manager 2> /dev/null; end_printing; rm -rf "$programs"' EXIT
 for program in "$bin"/*.exe; do
     name=$programs/$(basename "$program" .exe)
     printf '#!/bin/sh\nexec "%s/scripts/wine" "%s" "$@"\n' "$root" "$program" > "$name"

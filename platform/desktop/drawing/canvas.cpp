@@ -6,16 +6,13 @@
 #include <utility>
 
 #include "platform/desktop/drawing/text.h"
-#include "platform/desktop/program.h"
 #include "platform/desktop/windows/window_widget.h"
-#include "platform/desktop/windows/windows.h"
 
 namespace platform::desktop {
 
-Canvas::Canvas(const Window& window, QWidget* parent)
-    : QWidget(parent), table(window), user_bounds(0, 0, window.client_width, window.client_height) {
+Canvas::Canvas(const common::Live_Window& window, QWidget* parent) : QWidget(parent), live(window) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    device.pen_colour = window.fore_colour;
+    device.pen_colour = window.table.fore_colour;
 }
 
 Canvas::~Canvas() {
@@ -30,7 +27,7 @@ void Canvas::Open() {
 void Canvas::Wipe() {
     if (image.isNull()) return;
     Close_Painter(device);
-    image.fill(To_Qt(table.back_colour));
+    image.fill(To_Qt(live.table.back_colour));
     device.has_changed = true;
 }
 
@@ -48,7 +45,7 @@ void Canvas::Fit_Image() {
     if (image.size() == wanted) return;
     Close_Painter(device);
     QImage fitted(wanted, QImage::Format_RGB32);
-    fitted.fill(To_Qt(table.back_colour));
+    fitted.fill(To_Qt(live.table.back_colour));
     if (!image.isNull()) QPainter(&fitted).drawImage(0, 0, image);
     image = std::move(fitted);
 
@@ -92,14 +89,10 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
         default:
             return;
     }
-    if (table.mouse_down == nullptr) return;
     const QSize size = Device_Size();
-    const double x = std::floor(event->position().x() * devicePixelRatioF());
-    const double y = std::floor(event->position().y() * devicePixelRatioF());
-    const double user_x = user_bounds.left() + x * user_bounds.width() / size.width();
-    const double user_y = user_bounds.top() + y * user_bounds.height() / size.height();
-    On_Event(
-        [&] { table.mouse_down(button, static_cast<float>(user_x), static_cast<float>(user_y)); });
+    live.Take_Press(button, std::floor(event->position().x() * devicePixelRatioF()),
+                    std::floor(event->position().y() * devicePixelRatioF()),
+                    {size.width(), size.height()});
 }
 
 }  // namespace platform::desktop

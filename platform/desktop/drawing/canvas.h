@@ -3,8 +3,8 @@
 #include <QImage>
 #include <QWidget>
 
+#include "platform/common/live.h"
 #include "platform/desktop/drawing/device.h"
-#include "platform/window.h"
 
 namespace platform::desktop {
 
@@ -12,7 +12,7 @@ namespace platform::desktop {
 /// which it is shown again whenever it is uncovered. The controls are its children.
 class Canvas final : public QWidget {
   public:
-    Canvas(const Window& window, QWidget* parent);
+    Canvas(const common::Live_Window& window, QWidget* parent);
     ~Canvas() override;
 
     /// Makes the image, wiped; until then drawing is lost.
@@ -25,9 +25,6 @@ class Canvas final : public QWidget {
     /// ended, so that the screen never shows half a picture.
     void Show_Drawing();
 
-    /// Bounds that mouse presses are mapped onto.
-    void Set_User_Bounds(const QRectF& bounds) { user_bounds = bounds; }
-
     Device_Context device;
 
   protected:
@@ -39,9 +36,8 @@ class Canvas final : public QWidget {
     QSize Device_Size() const;
     void Fit_Image();
 
-    const Window& table;
+    const common::Live_Window& live;
     QImage image;
-    QRectF user_bounds;
 };
 
 }  // namespace platform::desktop

@@ -1,7 +1,4 @@
-#include "platform/desktop/windows/build.h"
-
 #include <QCheckBox>
-#include <QFontMetrics>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,7 +7,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyleOption>
 #include <algorithm>
 
 #include "platform/desktop/drawing/text.h"
@@ -92,8 +88,7 @@ QWidget* New_Line(Live_Control& control, QWidget* holder) {
     if (control.row->centred) line->setAlignment(Qt::AlignCenter);
     line->setValidator(new Code_Page_Validator(line));
     QObject::connect(line, &QLineEdit::textEdited, holder, [&control](const QString& typed) {
-        control.text = From_Qt_Lossy(typed);
-        Fire(control);
+        Take_Typed(control, From_Qt_Lossy(typed));
     });
     return line;
 }
@@ -106,21 +101,12 @@ QWidget* New_Lines(QWidget* holder) {
     return lines;
 }
 
-QWidget* New_Combo(const Control& row, QWidget* holder) {
-    auto* combo = new Entry_Combo(holder);
-    combo->setEditText(To_Qt(row.caption));
-    return combo;
-}
-
-QWidget* New_List(Live_Control& control, QWidget* holder) {
-    auto* list = new Entry_List(holder);
-    list->double_clicked = [&control] { Fire(control); };
-    return list;
-}
-
 QWidget* New_Folder(Live_Control& control, QWidget* holder) {
     auto* list = new Folder_List(holder);
-    list->moved = [&control] { Fire(control); };
+    list->moved = [&control] {
+        control.Note_Folder();
+        Fire(control);
+    };
     return list;
 }
 
@@ -143,9 +129,9 @@ QWidget* New_Widget(Live_Control& control, QWidget* holder) {
         case Control_Kind::Text:
             return row.multi_line ? New_Lines(holder) : New_Line(control, holder);
         case Control_Kind::Combo:
-            return New_Combo(row, holder);
+            return new Entry_Combo(control, holder);
         case Control_Kind::List:
-            return New_List(control, holder);
+            return new Entry_List(control, holder);
         case Control_Kind::Check:
             return new QCheckBox(holder);
         case Control_Kind::Option:
@@ -164,8 +150,8 @@ QWidget* New_Widget(Live_Control& control, QWidget* holder) {
 /// Makes the widget, in its frame or on the client area, with its place, font and first texts.
 void Build_Widget(Live_Control& control) {
     const Control& row = *control.row;
-    QWidget* holder = control.window->canvas;
-    for (const Live_Control& frame : control.window->controls) {
+    QWidget* holder = control.Holder().canvas;
+    for (const Live_Control& frame : control.Holder().controls) {
         if (frame.widget != nullptr && std::string_view(frame.row->name) == row.in)
             holder = frame.widget;
     }
@@ -178,61 +164,32 @@ void Build_Widget(Live_Control& control) {
     // A press on a control is none on the client area behind it.
     control.widget->setAttribute(Qt::WA_NoMousePropagation);
     if (const auto* button = qobject_cast<QAbstractButton*>(control.widget)) {
-        QObject::connect(button, &QAbstractButton::clicked, holder, [&control] { Fire(control); });
+        QObject::connect(button, &QAbstractButton::clicked, holder,
+                         [&control] { Take_Click(control); });
     }
-    Show_Caption(control, row.caption);
-    if (row.kind == Control_Kind::Progress) {
+    if (row.kind == Control_Kind::Progress)
         static_cast<QProgressBar*>(control.widget)->setTextVisible(false);
-    } else if (row.kind == Control_Kind::Text) {
-        control.text = row.caption;
-        Show_Text(control);
-    }
+    if (row.kind == Control_Kind::Folder) control.Note_Folder();
+    control.Show_Caption();
+    control.Show_Text();
 }
 
-/// The Tab key goes through the numbered rows first, then through the others by the table.
 void Set_Tab_Order(const Window_Widget& window) {
-    std::vector<const Live_Control*> order;
-    for (const Live_Control& control : window.controls) {
-        if (control.widget != nullptr && control.widget->focusPolicy() != Qt::NoFocus) {
-            order.push_back(&control);
-        }
+    QWidget* last = nullptr;
+    for (const std::size_t index : Tab_Order(window.table)) {
+        QWidget* widget = window.controls[index].widget;
+        if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
+        last != nullptr ? QWidget::setTabOrder(last, widget) : widget->setFocus();
+        last = widget;
     }
-    // As an unsigned number -1 comes behind all others.
-    std::ranges::stable_sort(order, {}, [](const Live_Control* control) {
-        return static_cast<unsigned>(control->row->tab_index);
-    });
-    for (std::size_t i = 1; i < order.size(); ++i) {
-        QWidget::setTabOrder(order[i - 1]->widget, order[i]->widget);
-    }
-    if (!order.empty()) order.front()->widget->setFocus();
-}
-
-/// How wide a button's caption may be.
-int Caption_Room(const QAbstractButton& button, Control_Kind kind) {
-    QStyleOptionButton option;
-    option.initFrom(&button);
-    const auto part = kind == Control_Kind::Check    ? QStyle::SE_CheckBoxContents
-                      : kind == Control_Kind::Option ? QStyle::SE_RadioButtonContents
-                                                     : QStyle::SE_PushButtonContents;
-    return button.style()->subElementRect(part, &option, &button).width();
-}
-
-/// A label breaks its caption into lines where it is high enough for two.
-void Show_In_Label(QLabel& label, const QString& caption) {
-    const bool has_lines = label.height() >= 2 * QFontMetrics(label.font()).lineSpacing();
-    label.setWordWrap(has_lines);
-    if (!has_lines) Condense_To_Fit(label, caption, label.width());
-    label.setText(caption);
 }
 
 }  // namespace
 
 void Build_Controls(Window_Widget& window) {
-    for (const Control& row : window.table.controls) {
-        Live_Control& control = window.controls.emplace_back();
-        control.window = &window;
-        control.row = &row;
-    }
+    window.controls.reserve(window.table.controls.size());
+    for (const Control& row : window.table.controls)
+        window.rows.push_back(&window.controls.emplace_back(window, row));
     Build_Menus(window);
     for (Live_Control& control : window.controls) {
         if (control.row->kind == Control_Kind::Timer) {
@@ -245,30 +202,6 @@ void Build_Controls(Window_Widget& window) {
         }
     }
     Set_Tab_Order(window);
-}
-
-void Show_Caption(const Live_Control& control, std::string_view caption) {
-    const Control_Kind kind = control.row->kind;
-    if (control.action != nullptr) {
-        control.action->setText(Caption_To_Qt(caption));
-    } else if (kind == Control_Kind::Label) {
-        Show_In_Label(static_cast<QLabel&>(*control.widget), To_Qt(caption));
-    } else if (auto* frame = qobject_cast<QGroupBox*>(control.widget)) {
-        frame->setTitle(Caption_To_Qt(caption));
-    } else if (auto* button = qobject_cast<QAbstractButton*>(control.widget)) {
-        Condense_To_Fit(*button, To_Qt(caption), Caption_Room(*button, kind));
-        button->setText(Caption_To_Qt(caption));
-    }
-}
-
-void Show_Text(const Live_Control& control) {
-    const QString shown = To_Qt(control.text);
-    if (auto* line = qobject_cast<QLineEdit*>(control.widget)) {
-        line->setText(shown);
-        line->setCursorPosition(0);
-    } else if (auto* lines = qobject_cast<QPlainTextEdit*>(control.widget)) {
-        lines->setPlainText(shown);
-    }
 }
 
 }  // namespace platform::desktop

@@ -1,196 +1,140 @@
-#include "platform/controls.h"
-
 #include <QAbstractButton>
+#include <QFontMetrics>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QProgressBar>
-#include <algorithm>
+#include <QStyleOption>
 
 #include "platform/desktop/drawing/text.h"
-#include "platform/desktop/program.h"
-#include "platform/desktop/windows/build.h"
 #include "platform/desktop/windows/entry_boxes.h"
 #include "platform/desktop/windows/folder_list.h"
 #include "platform/desktop/windows/window_widget.h"
-#include "platform/desktop/windows/windows.h"
 
-namespace platform {
+namespace platform::desktop {
 
 namespace {
 
-using desktop::Entry_Combo;
-using desktop::Entry_List;
-using desktop::Find_Live;
-using desktop::Folder_List;
-using desktop::Live_Control;
+/// A timer of fewer milliseconds is one that asks again and again. Its interval is stretched, so
+/// that it leaves the processor to others: a key press lasts 50 ms and more.
+constexpr int Shortest_Interval = 5;
+constexpr int Asking_Interval = 20;
 
-/// The button of a check box or option button; else null.
-QAbstractButton* Find_Choice(Control_Ref control) {
-    const Live_Control* live = Find_Live(control, Control_Kind::Check);
-    if (live == nullptr) live = Find_Live(control, Control_Kind::Option);
-    return live != nullptr ? static_cast<QAbstractButton*>(live->widget) : nullptr;
+/// How wide a button's caption may be.
+int Caption_Room(const QAbstractButton& button, Control_Kind kind) {
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    const auto part = kind == Control_Kind::Check    ? QStyle::SE_CheckBoxContents
+                      : kind == Control_Kind::Option ? QStyle::SE_RadioButtonContents
+                                                     : QStyle::SE_PushButtonContents;
+    return button.style()->subElementRect(part, &option, &button).width();
 }
 
-/// A combo or list box, whose entries the program fills; else null.
-Live_Control* Find_Fillable(Control_Ref control) {
-    Live_Control* combo = Find_Live(control, Control_Kind::Combo);
-    return combo != nullptr ? combo : Find_Live(control, Control_Kind::List);
-}
-
-Folder_List* Find_Folder_List(Control_Ref control) {
-    const Live_Control* live = Find_Live(control, Control_Kind::Folder);
-    return live != nullptr ? static_cast<Folder_List*>(live->widget) : nullptr;
-}
-
-void Show_Entries(const Live_Control& live) {
-    QStringList shown;
-    for (const std::string& entry : live.entries)
-        shown.append(desktop::To_Qt(entry));
-    if (live.row->kind == Control_Kind::Combo) {
-        static_cast<Entry_Combo*>(live.widget)->Set_Entries(shown);
-    } else {
-        static_cast<Entry_List*>(live.widget)->Set_Entries(shown);
-    }
-}
-
-/// All entries of a combo, list or folder list; a drive list has none.
-std::vector<std::string> Entries_Of(Control_Ref control) {
-    if (const Folder_List* list = Find_Folder_List(control)) return list->Subfolders();
-    const Live_Control* live = Find_Fillable(control);
-    return live != nullptr ? live->entries : std::vector<std::string>();
+/// A label breaks its caption into lines where it is high enough for two.
+void Show_In_Label(QLabel& label, const QString& caption) {
+    const bool has_lines = label.height() >= 2 * QFontMetrics(label.font()).lineSpacing();
+    label.setWordWrap(has_lines);
+    if (!has_lines) Condense_To_Fit(label, caption, label.width());
+    label.setText(caption);
 }
 
 }  // namespace
 
-void Set_Caption(Control_Ref control, std::string_view caption) {
-    if (const Live_Control* live = Find_Live(control)) desktop::Show_Caption(*live, caption);
+Window_Widget& Live_Control::Holder() const {
+    return *static_cast<Window_Widget*>(window);
 }
 
-void Set_Text(Control_Ref control, std::string_view text) {
-    if (const Live_Control* combo = Find_Live(control, Control_Kind::Combo)) {
-        static_cast<Entry_Combo*>(combo->widget)->Set_Free_Text(desktop::To_Qt(text));
-    }
-    Live_Control* live = Find_Live(control, Control_Kind::Text);
-    if (live == nullptr || live->text == text) return;
-    live->text = text;
-    desktop::Show_Text(*live);
-    desktop::Call(live->row->handler);
-}
-
-std::string Text_Of(Control_Ref control) {
-    const Live_Control* live = Find_Live(control);
-    if (live == nullptr) return {};
-    if (live->row->kind != Control_Kind::Combo) return live->text;
-    return desktop::From_Qt_Lossy(static_cast<Entry_Combo*>(live->widget)->currentText());
-}
-
-void Set_Enabled(Control_Ref control, bool enabled) {
-    const Live_Control* live = Find_Live(control);
-    if (live == nullptr) return;
-    if (live->action != nullptr) live->action->setEnabled(enabled);
-    if (live->widget == nullptr) return;
-    const Live_Control*& loser = live->window->lost_focus;
-    const bool has_focus = live->window->focusWidget() == live->widget;
-    if (!enabled && has_focus && loser == nullptr) loser = live;
-    live->widget->setEnabled(enabled);
-    if (enabled && loser == live) {
-        live->widget->setFocus();
-        loser = nullptr;
+void Live_Control::Show_Caption() {
+    if (action != nullptr) {
+        action->setText(Caption_To_Qt(caption));
+    } else if (row->kind == Control_Kind::Label) {
+        Show_In_Label(static_cast<QLabel&>(*widget), To_Qt(caption));
+    } else if (auto* frame = qobject_cast<QGroupBox*>(widget)) {
+        frame->setTitle(Caption_To_Qt(caption));
+    } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+        Condense_To_Fit(*button, To_Qt(caption), Caption_Room(*button, row->kind));
+        button->setText(Caption_To_Qt(caption));
     }
 }
 
-void Repaint(Control_Ref control) {
-    const Live_Control* live = Find_Live(control);
-    if (live != nullptr && live->widget != nullptr) live->widget->repaint();
+void Live_Control::Show_Text() {
+    if (auto* line = qobject_cast<QLineEdit*>(widget)) {
+        line->setText(To_Qt(text));
+        line->setCursorPosition(0);
+    } else if (auto* lines = qobject_cast<QPlainTextEdit*>(widget)) {
+        lines->setPlainText(To_Qt(text));
+    } else if (row->kind == Control_Kind::Combo) {
+        static_cast<Entry_Combo*>(widget)->Show_Text();
+    }
 }
 
-void Set_Checked(Control_Ref control, bool checked) {
-    QAbstractButton* button = Find_Choice(control);
-    if (button == nullptr || button->isChecked() == checked) return;
+void Live_Control::Show_Enabled() {
+    if (action != nullptr) action->setEnabled(enabled);
+    if (widget == nullptr) return;
+    const Live_Control*& loser = Holder().lost_focus;
+    if (!enabled && loser == nullptr && Holder().focusWidget() == widget) loser = this;
+    widget->setEnabled(enabled);
+    if (!enabled || loser != this) return;
+    widget->setFocus();
+    loser = nullptr;
+}
+
+void Live_Control::Show_Checked() {
+    auto* button = static_cast<QAbstractButton*>(widget);
     const bool is_option = button->autoExclusive();
     // An exclusive button can only be cleared by another's choice, unless it is not exclusive.
-    if (is_option && !checked) button->setAutoExclusive(false);
+    if (!checked) button->setAutoExclusive(false);
     button->setChecked(checked);
     button->setAutoExclusive(is_option);
-    if (checked || !is_option) desktop::Call(control.window->controls[control.index].handler);
 }
 
-bool Is_Checked(Control_Ref control) {
-    const QAbstractButton* button = Find_Choice(control);
-    return button != nullptr && button->isChecked();
+void Live_Control::Show_Transparent() {
+    widget->setAutoFillBackground(!transparent);
+    widget->update();
 }
 
-void Set_Transparent(Control_Ref control, bool transparent) {
-    const Live_Control* live = Find_Live(control, Control_Kind::Label);
-    if (live == nullptr) return;
-    live->widget->setAutoFillBackground(!transparent);
-    live->widget->update();
-}
-
-void Clear_Entries(Control_Ref control) {
-    Live_Control* live = Find_Fillable(control);
-    if (live == nullptr) return;
-    live->entries.clear();
-    Show_Entries(*live);
-}
-
-void Add_Entries(Control_Ref control, std::span<const std::string> entries) {
-    Live_Control* live = Find_Fillable(control);
-    if (live == nullptr) return;
-    live->entries.insert(live->entries.end(), entries.begin(), entries.end());
-    if (live->row->sorted) std::ranges::sort(live->entries);
-    Show_Entries(*live);
-}
-
-int Entry_Count(Control_Ref control) {
-    return static_cast<int>(Entries_Of(control).size());
-}
-
-std::string Entry_Text(Control_Ref control, int index) {
-    const std::vector<std::string> all = Entries_Of(control);
-    return index >= 0 && index < std::ssize(all) ? all[static_cast<std::size_t>(index)]
-                                                 : std::string();
-}
-
-int Selected_Index(Control_Ref control) {
-    const Live_Control* live = Find_Fillable(control);
-    if (live == nullptr) return -1;
-    return live->row->kind == Control_Kind::Combo
-               ? static_cast<const Entry_Combo*>(live->widget)->Picked()
-               : static_cast<const Entry_List*>(live->widget)->Picked();
-}
-
-std::string Folder_Path(Control_Ref control) {
-    const Folder_List* list = Find_Folder_List(control);
-    return list != nullptr ? list->Path() : std::string();
-}
-
-void Set_Folder_Path(Control_Ref control, std::string_view path) {
-    Folder_List* list = Find_Folder_List(control);
-    if (list != nullptr && list->Go_To(path)) {
-        desktop::Call(control.window->controls[control.index].handler);
+void Live_Control::Show_Entries() {
+    QStringList shown;
+    for (const std::string& entry : entries)
+        shown.append(To_Qt(entry));
+    if (row->kind == Control_Kind::Combo) {
+        static_cast<Entry_Combo*>(widget)->Set_Entries(shown);
+    } else {
+        static_cast<Entry_List*>(widget)->Set_Entries(shown);
     }
 }
 
-std::string Drive_Name(Control_Ref) {
-    return {};
-}
-
-void Set_Progress(Control_Ref control, const Progress& progress) {
-    Live_Control* live = Find_Live(control, Control_Kind::Progress);
-    if (live == nullptr) return;
-    Progress& shown = live->progress;
-    shown.minimum = progress.minimum;
-    shown.maximum = std::max(progress.minimum, progress.maximum);
-    shown.value = std::clamp(progress.value, shown.minimum, shown.maximum);
-    auto* bar = static_cast<QProgressBar*>(live->widget);
+void Live_Control::Show_Progress() {
+    auto* bar = static_cast<QProgressBar*>(widget);
     // The toolkit takes an empty range for work without a known end.
-    const bool is_empty = shown.minimum == shown.maximum;
-    bar->setRange(is_empty ? 0 : shown.minimum, is_empty ? 1 : shown.maximum);
-    bar->setValue(is_empty ? 0 : shown.value);
+    const bool is_empty = progress.minimum == progress.maximum;
+    bar->setRange(is_empty ? 0 : progress.minimum, is_empty ? 1 : progress.maximum);
+    bar->setValue(is_empty ? 0 : progress.value);
 }
 
-Progress Progress_Of(Control_Ref control) {
-    const Live_Control* live = Find_Live(control, Control_Kind::Progress);
-    return live != nullptr ? live->progress : Progress{0, 0, 0};
+void Live_Control::Repaint() {
+    if (widget != nullptr) widget->repaint();
 }
 
-}  // namespace platform
+void Live_Control::Fit_Timer() {
+    if (running && interval > 0) {
+        timer->start(interval < Shortest_Interval ? Asking_Interval : interval);
+    } else {
+        timer->stop();
+    }
+}
+
+void Live_Control::Note_Folder() {
+    const auto* list = static_cast<Folder_List*>(widget);
+    folder = list->Path();
+    entries = list->Subfolders();
+}
+
+bool Live_Control::Go_To(std::string_view path) {
+    if (!static_cast<Folder_List*>(widget)->Go_To(path)) return false;
+    Note_Folder();
+    return true;
+}
+
+}  // namespace platform::desktop

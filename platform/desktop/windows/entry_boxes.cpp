@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "platform/desktop/drawing/text.h"
+#include "platform/desktop/windows/window_widget.h"
 
 namespace platform::desktop {
 
@@ -50,14 +51,14 @@ QValidator::State Code_Page_Validator::validate(QString& text, int&) const {
     return From_Qt(text).has_value() ? Acceptable : Invalid;
 }
 
-Entry_List::Entry_List(QWidget* parent) : QListView(parent), entries(new QStringListModel(this)) {
+Entry_List::Entry_List(Live_Control& control, QWidget* parent)
+    : QListView(parent), live(control), entries(new QStringListModel(this)) {
     setModel(entries);
     Set_Up_View(*this);
-}
-
-int Entry_List::Picked() const {
-    const QModelIndexList rows = selectionModel()->selectedRows();
-    return rows.isEmpty() ? -1 : rows.front().row();
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        const QModelIndexList picked = selectionModel()->selectedRows();
+        Take_Pick(live, picked.isEmpty() ? -1 : picked.front().row());
+    });
 }
 
 /// A click beside the entries leaves the selection.
@@ -67,11 +68,11 @@ void Entry_List::mousePressEvent(QMouseEvent* event) {
 
 void Entry_List::mouseDoubleClickEvent(QMouseEvent* event) {
     QListView::mouseDoubleClickEvent(event);
-    if (double_clicked) double_clicked();
+    Fire(live);  // also beside the entries
 }
 
-Entry_Combo::Entry_Combo(QWidget* parent)
-    : QComboBox(parent), model_of_entries(new QStringListModel(this)) {
+Entry_Combo::Entry_Combo(Live_Control& control, QWidget* parent)
+    : QComboBox(parent), live(control), model_of_entries(new QStringListModel(this)) {
     setView(New_List_View());
     setModel(model_of_entries);
     setEditable(true);
@@ -82,8 +83,9 @@ Entry_Combo::Entry_Combo(QWidget* parent)
     // The toolkit's own box would pick the entry whose text was typed as soon as the focus goes.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     Build_Completer();
-    connect(this, &QComboBox::activated, this, [this](int index) { picked = index; });
-    connect(lineEdit(), &QLineEdit::textEdited, this, [this] { picked = -1; });
+    connect(this, &QComboBox::activated, this, [this](int index) { Take_Pick(live, index); });
+    connect(lineEdit(), &QLineEdit::textEdited, this,
+            [this](const QString& typed) { Take_Typed(live, From_Qt_Lossy(typed)); });
     connect(lineEdit(), &QLineEdit::textChanged, this, [this] { Fit_Text(); });
 }
 
@@ -100,7 +102,7 @@ void Entry_Combo::Build_Completer() {
             [this, completer](const QModelIndex& index) {
                 const auto* proxy =
                     qobject_cast<QAbstractProxyModel*>(completer->completionModel());
-                picked = index.isValid() ? proxy->mapToSource(index).row() : -1;
+                if (index.isValid()) Take_Pick(live, proxy->mapToSource(index).row());
             });
 }
 
@@ -117,18 +119,15 @@ void Entry_Combo::resizeEvent(QResizeEvent* event) {
 }
 
 void Entry_Combo::Set_Entries(const QStringList& entries) {
-    const QString text = picked < 0 ? currentText() : QString();
     model_of_entries->setStringList(entries);
     const int list_width = List_Width(entries, *view());
     view()->setMinimumWidth(list_width);
     completer()->popup()->setMinimumWidth(list_width);
-    Set_Free_Text(text);
 }
 
-void Entry_Combo::Set_Free_Text(const QString& text) {
-    picked = -1;
+void Entry_Combo::Show_Text() {
     setCurrentIndex(-1);
-    setEditText(text);
+    setEditText(To_Qt(live.text));
     lineEdit()->setCursorPosition(0);
 }
 

@@ -4,9 +4,10 @@
 #include <QListView>
 #include <QStringListModel>
 #include <QValidator>
-#include <functional>
 
 namespace platform::desktop {
+
+struct Live_Control;
 
 /// Refuses characters that the program's code page does not have, as they are typed.
 class Code_Page_Validator final : public QValidator {
@@ -18,20 +19,17 @@ class Code_Page_Validator final : public QValidator {
 /// A list box in which one entry can be selected.
 class Entry_List final : public QListView {
   public:
-    explicit Entry_List(QWidget* parent);
+    Entry_List(Live_Control& control, QWidget* parent);
 
     /// Replaces all entries; none is selected then.
     void Set_Entries(const QStringList& texts) { entries->setStringList(texts); }
-
-    int Picked() const;
-
-    std::function<void()> double_clicked;  ///< also beside the entries
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
+    Live_Control& live;
     QStringListModel* entries;
 };
 
@@ -39,16 +37,13 @@ class Entry_List final : public QListView {
 /// quick with tens of thousands of entries: they come and go as one model.
 class Entry_Combo final : public QComboBox {
   public:
-    explicit Entry_Combo(QWidget* parent);
+    Entry_Combo(Live_Control& control, QWidget* parent);
 
-    /// Replaces all entries. Nothing is picked then; a text that was picked goes, another stays.
+    /// Replaces all entries.
     void Set_Entries(const QStringList& entries);
 
-    /// Shows a text that is not a pick.
-    void Set_Free_Text(const QString& text);
-
-    /// The entry that was picked; -1 after typing, even of an entry's very text.
-    int Picked() const { return picked; }
+    /// Shows the control's text, which is no pick.
+    void Show_Text();
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -57,8 +52,8 @@ class Entry_Combo final : public QComboBox {
     void Build_Completer();
     void Fit_Text();
 
+    Live_Control& live;
     QStringListModel* model_of_entries;
-    int picked = -1;
 };
 
 }  // namespace platform::desktop

@@ -6,9 +6,8 @@
 
 #include "platform/code_page.h"
 #include "platform/desktop/drawing/text.h"
-#include "platform/desktop/program.h"
+#include "platform/desktop/windows/window_widget.h"
 #include "platform/files.h"
-#include "platform/message_box.h"
 #include "platform/posix/native_path.h"
 #include "platform/program.h"
 
@@ -62,10 +61,7 @@ void Folder_List::Walk(const QListWidgetItem& item) {
         if (Go_To(*text) && moved) moved();
         return;
     }
-    Message_Box("The folder \"" + From_Utf8_Lossy(to) +
-                    "\" cannot be used, because its name holds characters that this program cannot "
-                    "write.",
-                Icon::Exclamation, Message_Title);
+    Refuse_Folder(From_Utf8_Lossy(to));
 }
 
 std::vector<std::string> Folder_List::Subfolders() const {

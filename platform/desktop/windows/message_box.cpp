@@ -7,7 +7,6 @@
 #include "platform/desktop/drawing/text.h"
 #include "platform/desktop/program.h"
 #include "platform/desktop/windows/window_widget.h"
-#include "platform/desktop/windows/windows.h"
 
 namespace platform {
 
@@ -27,7 +26,8 @@ QMessageBox::Icon To_Qt(Icon icon) {
 /// The window that the box belongs to: the active one, else the one shown last.
 QWidget* Owner() {
     QWidget* owner = nullptr;
-    for (desktop::Window_Widget* widget : desktop::Loaded_Windows()) {
+    for (desktop::Live_Window* window : desktop::Loaded_Windows()) {
+        auto* widget = static_cast<desktop::Window_Widget*>(window);
         if (!widget->isVisible() || widget->isMinimized()) continue;
         if (widget->isActiveWindow()) return widget;
         owner = widget;
@@ -50,9 +50,9 @@ void Message_Box(std::string_view text, Icon icon, std::string_view title) {
     if (desktop::Is_Leaving()) return;
     const desktop::Handler_Scope scope;
     bool any_topmost = false;
-    for (const desktop::Window_Widget* widget : desktop::Loaded_Windows()) {
-        any_topmost = any_topmost || widget->Is_Topmost();
-        widget->canvas->Show_Drawing();
+    for (desktop::Live_Window* window : desktop::Loaded_Windows()) {
+        any_topmost = any_topmost || window->is_topmost;
+        window->Show_Drawing();
     }
     QString lines = desktop::To_Qt(text);
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));

@@ -10,10 +10,7 @@
 #include <xcb/xcb.h>
 
 #include "platform/desktop/drawing/text.h"
-#include "platform/desktop/program.h"
 #include "platform/desktop/scale.h"
-#include "platform/desktop/windows/build.h"
-#include "platform/desktop/windows/windows.h"
 
 namespace platform::desktop {
 
@@ -72,21 +69,15 @@ void Hold_Above(const QWindow& window) {
 
 }  // namespace
 
-void Fire(Live_Control& control) {
-    // An unloaded window's widget lives on until the event loop has deleted it.
-    if (Find_Window(control.window->table) != control.window) return;
-    On_Event([&control] { Call(control.row->handler); });
-}
-
-Window_Widget::Window_Widget(const Window& window) : table(window) {
-    setWindowTitle(To_Qt(window.caption));
+Window_Widget::Window_Widget(const Window& window) : Live_Window(window) {
+    Show_Caption();
     setFont(Default_Font());
-    canvas = new Canvas(window, this);
+    canvas = new Canvas(*this, this);
     Build_Controls(*this);
     setWindowFlags(Frame_Flags(window.frame));
     Set_Size({To_Logical(window.client_width), To_Logical(window.client_height) + Menu_Height()});
     create();  // Only a native window knows of its frame.
-    reported_size = Outer_Pixels();
+    reported_size = Frame_Pixels();
 }
 
 void Window_Widget::Present() {
@@ -103,34 +94,38 @@ void Window_Widget::Present() {
     show();
 }
 
-void Window_Widget::Dismiss() {
-    if (is_unloading) return;
-    is_unloading = true;
-    Call(table.unload);
-    Remove_Window(this);
-    for (Live_Control& control : controls) {
-        if (control.timer != nullptr) control.timer->stop();
-    }
+void Window_Widget::Retire() {
     hide();
     deleteLater();
 }
 
-void Window_Widget::Set_Topmost(bool topmost) {
-    is_topmost = topmost;
+void Window_Widget::Show_Caption() {
+    setWindowTitle(To_Qt(caption));
+}
+
+void Window_Widget::Show_Input() {
+    canvas->setEnabled(takes_input);
+    if (menu_bar != nullptr) menu_bar->setEnabled(takes_input);
+}
+
+void Window_Widget::Place(int x, int y, int cx, int cy, unsigned flags) {
+    Set_Topmost();
+    if ((flags & SWP_NOMOVE) == 0) Move_Outer(QPoint(x, y));
+    if ((flags & SWP_NOSIZE) != 0) return;
+    const QSize outer = (QSizeF(cx, cy) / devicePixelRatioF()).toSize();
+    Set_Size(outer.shrunkBy(Frame_Margins()).expandedTo({1, 1}));
+    Report_Size();
+}
+
+void Window_Widget::Set_Topmost() {
     if (!was_shown) {
-        setWindowFlag(Qt::WindowStaysOnTopHint, topmost);
+        setWindowFlag(Qt::WindowStaysOnTopHint, is_topmost);
         create();
         return;
     }
     // Setting the widget's own flag would take the window from the screen and show it again.
-    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, topmost);
-    if (topmost) Hold_Above(*windowHandle());
-}
-
-void Window_Widget::Set_Input(bool enabled) {
-    takes_input = enabled;
-    canvas->setEnabled(enabled);
-    if (menu_bar != nullptr) menu_bar->setEnabled(enabled);
+    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, is_topmost);
+    if (is_topmost) Hold_Above(*windowHandle());
 }
 
 void Window_Widget::Move_Outer(QPoint place) {
@@ -141,12 +136,6 @@ void Window_Widget::Move_Outer(QPoint place) {
     windowHandle()->setFramePosition(logical);
 }
 
-void Window_Widget::Resize_Outer(QSize size) {
-    Set_Size(
-        (QSizeF(size) / devicePixelRatioF()).toSize().shrunkBy(Frame_Margins()).expandedTo({1, 1}));
-    Report_Size();
-}
-
 void Window_Widget::Set_Size(QSize inner) {
     if (table.frame == Frame_Style::Sizable) {
         resize(inner);
@@ -155,32 +144,13 @@ void Window_Widget::Set_Size(QSize inner) {
     }
 }
 
-QSize Window_Widget::Outer_Pixels() const {
-    if (State() == Window_State::Minimised) return reported_size;
-    return (QSizeF(size().grownBy(Frame_Margins())) * devicePixelRatioF()).toSize();
+Pixels Window_Widget::Frame_Pixels() const {
+    const QSize outer = (QSizeF(size().grownBy(Frame_Margins())) * devicePixelRatioF()).toSize();
+    return {outer.width(), outer.height()};
 }
 
 Window_State Window_Widget::State() const {
     return isMinimized() ? Window_State::Minimised : Window_State::Normal;
-}
-
-void Window_Widget::Minimise_Now() {
-    if (!was_shown || State() == Window_State::Minimised) return;
-    const Handler_Scope scope;
-    reported_size = Outer_Pixels();
-    reported_state = Window_State::Minimised;
-    showMinimized();
-    Call(table.resize);
-}
-
-void Window_Widget::Report_Size() {
-    if (!was_shown || is_unloading || Is_Busy()) return;
-    const Window_State state = State();
-    const QSize size = Outer_Pixels();
-    if (state == reported_state && size == reported_size) return;
-    reported_state = state;
-    reported_size = size;
-    On_Event([this] { Call(table.resize); });
 }
 
 bool Window_Widget::event(QEvent* event) {
@@ -222,3 +192,7 @@ QMargins Window_Widget::Frame_Margins() const {
 }
 
 }  // namespace platform::desktop
+
+platform::common::Live_Window* platform::common::Make_Window(const Window& table) {
+    return new desktop::Window_Widget(table);
+}

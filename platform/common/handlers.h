@@ -4,7 +4,10 @@
 
 /// Who may run when. Handlers run one after the other; what the program itself sets off inside a
 /// handler (a load, an unload, a changed text) runs inside that one as a plain call.
-namespace platform::windows {
+namespace platform::common {
+
+/// Starts a program from nothing: windows that an earlier one left go without their handlers.
+void Begin(Handler start);
 
 /// Stands on the stack while a handler runs. The end of the outermost one brings the windows up to
 /// date, and ends the program if no window is left.
@@ -16,29 +19,19 @@ class Handler_Scope {
     Handler_Scope& operator=(const Handler_Scope&) = delete;
 };
 
-/// Stands on the stack while a message box waits for its answer.
-class Box_Scope {
-  public:
-    Box_Scope();
-    ~Box_Scope();
-    Box_Scope(const Box_Scope&) = delete;
-    Box_Scope& operator=(const Box_Scope&) = delete;
-};
-
-/// Whether an event has to be passed over: a handler runs, a box stands, or the program ends.
+/// Whether an event has to be passed over: a handler runs (perhaps with a message box that waits
+/// for its answer), or the program ends.
 bool Is_Busy();
 
 /// Whether the program ends as soon as the running handler has returned.
 bool Is_Ending();
 
-/// Makes a program that has ended ready for another run.
-void Reset_Life();
-
 /// Runs a handler for something that the program itself has done.
 void Call(Handler handler);
 
 /// Runs the action as an event's handler, or drops it if another event is at work. While a handler
-/// runs an event can only come from what the handler itself does to windows.
+/// runs an event can only come from what the handler itself does to windows, or from the wait for a
+/// message box, which blocks the user's input.
 template <typename Action>
 void On_Event(Action&& action) {
     if (Is_Busy()) return;
@@ -46,4 +39,7 @@ void On_Event(Action&& action) {
     action();
 }
 
-}  // namespace platform::windows
+/// The back-end's own: ends the loop that serves events.
+void Leave_Loop();
+
+}  // namespace platform::common
