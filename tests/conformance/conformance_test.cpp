@@ -15,30 +15,23 @@
 
 namespace conformance {
 
-using namespace platform;
 using namespace std::string_literals;
 
-namespace {
-
-constexpr auto Fast = Main("Fast");
-constexpr auto Slow = Main("Slow");
-constexpr auto Check1 = Main("Check1");
-constexpr auto Combo1 = Main("Combo1");
-constexpr auto List1 = Main("List1");
-constexpr auto Option1 = Main("Option1");
-constexpr auto Option2 = Main("Option2");
+constexpr auto Fast = Main("Fast"), Slow = Main("Slow"), Check1 = Main("Check1"),
+               Combo1 = Main("Combo1"), List1 = Main("List1"), Option1 = Main("Option1"),
+               Option2 = Main("Option2");
 
 class Conformance : public testing::Test {
   protected:
     void SetUp() override { driver::Start(Show_Main); }
 };
 
-void Tick_Every(int milliseconds, Control_Ref timer) {
+static void Tick_Every(int milliseconds, Control_Ref timer) {
     Set_Interval(timer, milliseconds);
     Start_Timer(timer);
 }
 
-void Tick_Once(Handler handler) {
+static void Tick_Once(Handler handler) {
     on_fast_tick = handler;
     Tick_Every(10, Fast);
     driver::Advance(100);
@@ -124,7 +117,7 @@ TEST_F(Conformance, The_Program_Ends_By_A_Call_Or_With_Its_Last_Window_And_Not_B
     EXPECT_FALSE(driver::Running());
 }
 
-std::pair<double, double> Pixels(const Window& window) {
+static std::pair<double, double> Pixels(const Window& window) {
     const Size outer = Outer_Size(window);
     return {Twips_To_Pixels_X(outer.width), Twips_To_Pixels_Y(outer.height)};
 }
@@ -214,7 +207,7 @@ TEST_F(Conformance, A_Key_That_A_Window_Takes_Moves_No_Focus_And_Presses_No_Butt
 }
 
 TEST_F(Conformance,
-       A_Press_Arrives_In_User_Coordinates_But_None_On_A_Control_Nor_On_A_Disabled_Window) {
+       A_Press_Arrives_In_User_Coordinates_But_Not_On_A_Control_Nor_A_Disabled_Window) {
     Set_User_Coordinates(Main_Window, -10, 50, 30, 34);  // 400 by 320 pixels: 0.1 and -0.05 each
     driver::Press(Main_Window, Mouse_Button::Middle, 100, 200);
     EXPECT_EQ(counts.button, Mouse_Button::Middle);
@@ -379,8 +372,7 @@ TEST_F(Conformance, A_Number_Has_A_Decimal_Point_Also_Where_The_User_Writes_A_Co
     EXPECT_STREQ(std::localeconv()->decimal_point, ".");
 }
 
-TEST_F(Conformance,
-       A_Held_Key_Is_One_Press_And_One_Let_Go_Is_Told_Once_Unless_It_Was_Before_The_Start) {
+TEST_F(Conformance, A_Held_Key_Is_One_Press_And_One_Let_Go_Is_Told_Once_Unless_Before_The_Start) {
     const auto states = [](bool down) {
         driver::Key('A', down);
         const int first = GetAsyncKeyState('A');
@@ -419,8 +411,6 @@ TEST_F(Conformance, A_Page_Has_Its_Sheet_And_Its_Lines_And_Ends_Once) {
     for (const std::string& name : names.value())
         Delete_File(name);
 }
-
-}  // namespace
 
 }  // namespace conformance
 

@@ -7,18 +7,19 @@
 /// counted.
 namespace conformance {
 
+using namespace platform;
+
 struct Counts {
     int loads, unloads, resizes, presses, moves;
     int fast_ticks, slow_ticks;
     int clicks, check_clicks, first_clicks, second_clicks, text_changes, double_clicks;
-    platform::Window_State state_at_resize;
-    platform::Mouse_Button button;
+    Window_State state_at_resize;
+    Mouse_Button button;
     float press_x, press_y;
 };
 inline Counts counts;
 
-/// What a tick of `Fast` does besides counting.
-inline platform::Handler on_fast_tick = nullptr;
+inline Handler on_fast_tick = nullptr;  ///< what a tick of `Fast` does besides counting
 
 template <int Counts::*field>
 void Count() {
@@ -30,7 +31,7 @@ inline void Tick_Fast() {
     if (on_fast_tick != nullptr) on_fast_tick();
 }
 
-inline void Take_Press(platform::Mouse_Button button, float x, float y) {
+inline void Take_Press(Mouse_Button button, float x, float y) {
     ++counts.presses;
     counts.button = button;
     counts.press_x = x;
@@ -42,8 +43,8 @@ void Main_Resize();
 void Load_Second();
 
 // The controls keep to the right part of the window, so that the left part shows the drawing.
-using enum platform::Control_Kind;
-inline constexpr platform::Control main_controls[] = {
+using enum Control_Kind;
+inline constexpr Control main_controls[] = {
     {"Frame1", Frame, "", {4500, 0, 1500, 1500}},
     {"Option1", Option, "Frame1", {120, 300, 1200, 255}, "", Count<&Counts::first_clicks>},
     {"Option2", Option, "Frame1", {120, 600, 1200, 255}, "", Count<&Counts::second_clicks>},
@@ -63,15 +64,15 @@ inline constexpr platform::Control main_controls[] = {
     {"Slow", Timer, "", {}, "", Count<&Counts::slow_ticks>, 200, false},
 };
 
-using enum platform::Frame_Style;
-inline constexpr auto Green = platform::Colour{0, 192, 0};
+using enum Frame_Style;
+inline constexpr auto Green = Colour{0, 192, 0}, Grey = Colour{212, 208, 200};
 inline constexpr auto Load_Main = Count<&Counts::loads>, Unload_Main = Count<&Counts::unloads>;
-inline constexpr platform::Window Main_Window = {
-    "Main_Window",          "Main", 6000,      4800,        main_controls, Sizable,
-    platform::Colour_White, Green,  Load_Main, Unload_Main, Main_Resize,   Take_Press};
+inline constexpr Window Main_Window = {"Main_Window", "Main",      6000,         4800,
+                                       main_controls, Sizable,     Colour_White, Green,
+                                       Load_Main,     Unload_Main, Main_Resize,  Take_Press};
 
 // Out of the order of the places on the screen: the Tab key goes by the table.
-inline constexpr platform::Control second_controls[] = {
+inline constexpr Control second_controls[] = {
     {"Frame1", Frame, "", {0, 0, 3000, 2400}},
     {"Option1", Option, "Frame1", {120, 1500, 1200, 255}},
     {"Option2", Option, "Frame1", {120, 1200, 1200, 255}},
@@ -80,42 +81,41 @@ inline constexpr platform::Control second_controls[] = {
     {.name = "Text1", .kind = Text, .in = "Frame1", .at = {1500, 200, 900, 285}, .read_only = true},
     {"Button1", Button, "", {0, 2600, 600, 300}, "", Count<&Counts::clicks>},
 };
-constexpr platform::Colour Grey = {212, 208, 200};
-inline constexpr platform::Window Second_Window = {
+inline constexpr Window Second_Window = {
     "Second_Window", "Second", 3000, 3000, second_controls, Fixed, Grey, {}, Load_Second};
-inline constexpr platform::Window Key_Window = {
-    "Key_Window", "Keys",  3000,    3000,    second_controls, Dialog, Grey,
-    {},           nullptr, nullptr, nullptr, nullptr,         true};
+inline constexpr Window Key_Window = {"Key_Window", "Keys",  3000, 3000,    second_controls,
+                                      Dialog,       Grey,    {},   nullptr, nullptr,
+                                      nullptr,      nullptr, true};
 
-consteval platform::Control_Ref Main(std::string_view name) {
-    return platform::Find_Control(Main_Window, name);
+consteval Control_Ref Main(std::string_view name) {
+    return Find_Control(Main_Window, name);
 }
 
-consteval platform::Control_Ref Second(std::string_view name) {
-    return platform::Find_Control(Second_Window, name);
+consteval Control_Ref Second(std::string_view name) {
+    return Find_Control(Second_Window, name);
 }
 
 /// What a small program starts with: the main window, everything counted from 0.
 inline void Show_Main() {
     counts = {};
     on_fast_tick = nullptr;
-    platform::Show(Main_Window);
+    Show(Main_Window);
 }
 
 // A program may set a text from inside the news of its change; that is a change of its own.
 inline void Text1_Change() {
     ++counts.text_changes;
-    if (platform::Text_Of(Main("Text1")) == "twice") platform::Set_Text(Main("Text1"), "once");
+    if (Text_Of(Main("Text1")) == "twice") Set_Text(Main("Text1"), "once");
 }
 
 inline void Load_Second() {
-    using enum platform::Insert_After;
-    SetWindowPos(Second_Window, HWND_TOPMOST, 0, 0, 0, 0, platform::SWP_NOSIZE);
+    using enum Insert_After;
+    SetWindowPos(Second_Window, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE);
 }
 
 inline void Main_Resize() {
     ++counts.resizes;
-    counts.state_at_resize = platform::State_Of(Main_Window);
+    counts.state_at_resize = State_Of(Main_Window);
 }
 
 }  // namespace conformance

@@ -24,18 +24,11 @@ using platform::desktop::Window_Widget;
 static float pressed_x = 0;
 
 // The caption is a little wider than its button.
-constexpr platform::Control wide_captions[] = {{"Button",
-                                                platform::Control_Kind::Button,
-                                                "",
-                                                {0, 0, 2025, 300},
-                                                "abcdefghijklmnopqrstuvwxyz"}};
-constexpr platform::Window plain = {
-    .name = "plain",
-    .caption = "Plain",
-    .client_width = 2025,
-    .client_height = 1500,
-    .controls = wide_captions,
-    .mouse_down = [](platform::Mouse_Button, float x, float) { pressed_x = x; }};
+constexpr auto Press = [](platform::Mouse_Button, float x, float) { pressed_x = x; };
+constexpr platform::Control wide_captions[] = {
+    {"", platform::Control_Kind::Button, "", {0, 0, 2025, 300}, "abcdefghijklmnopqrstuvwxyz"}};
+constexpr platform::Window plain = {"", "Plain", 2025,    1500,    wide_captions, {},
+                                    {}, {},      nullptr, nullptr, nullptr,       Press};
 
 static void Expect_Fits(const QWidget& widget, const char* name) {
     const QFontMetrics metrics(widget.font());

@@ -1,10 +1,6 @@
 // The real client and the stand-in simulator's server, each a process of its own, as in life.
 
 #include <csignal>
-#include <cstdlib>
-#include <cstring>
-#include <fcntl.h>
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/wait.h>
@@ -71,8 +67,7 @@ class Transport : public testing::Test {
     /// The reply to a message about the block; 1000 and the error if there is none.
     static std::uint32_t Reply(std::uint32_t time_out = Long_Enough) {
         std::uint32_t reply = 99;
-        const bool sent = SendMessageTimeoutA(1, 0, 0, time_out, reply);
-        return sent ? reply : 1000 + GetLastError();
+        return SendMessageTimeoutA(1, 0, 0, time_out, reply) ? reply : 1000 + GetLastError();
     }
 
     Scratch_Folder scratch;
