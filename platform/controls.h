@@ -49,7 +49,8 @@ int Selected_Index(Control_Ref control);
 
 /// Of a folder list. The path is the file system's own, without a separator at its end unless it is
 /// a root. Setting a folder that does not exist changes nothing. A two-character drive name stands
-/// for that drive's current folder; an empty path for the working folder.
+/// for that drive's current folder; an empty path for where the list starts, which is the working
+/// folder unless the back-end knows a better place.
 std::string Folder_Path(Control_Ref control);
 void Set_Folder_Path(Control_Ref control, std::string_view path);
 

@@ -1,8 +1,10 @@
 #include "platform/controls.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
+#include "platform/code_page.h"
 #include "platform/common/handlers.h"
 #include "platform/common/live.h"
 #include "platform/message_box.h"
@@ -32,6 +34,7 @@ Live_Control* Find_Fillable(Control_Ref control) {
 }
 
 void Show_Entries(Live_Control& list) {
+    list.matches.clear();
     common::Take_Pick(list, -1);
     list.Show_Entries();
     list.Show_Text();
@@ -57,9 +60,30 @@ void Choose(Live_Control& control, bool checked) {
 
 namespace common {
 
+std::vector<std::size_t> Matches(const std::vector<std::string>& entries, std::string_view typed) {
+    const std::string text = Lower_Case(typed);
+    if (text.empty()) return {};
+    const std::string code = "(" + text + ")";
+    std::array<std::vector<std::size_t>, 3> ranks;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const std::string entry = Lower_Case(entries[i]);
+        const std::size_t place = entry.find(text);
+        if (place == std::string::npos) continue;
+        ranks[entry.ends_with(code) ? 0 : place == 0 ? 1 : 2].push_back(i);
+    }
+    for (const auto& rank : {ranks[1], ranks[2]})
+        ranks[0].insert(ranks[0].end(), rank.begin(), rank.end());
+    return ranks[0];
+}
+
+bool Shows_Hint(const Live_Control& combo) {
+    return combo.selected < 0 && combo.text == combo.row->caption;
+}
+
 void Take_Typed(Live_Control& box, std::string text) {
     box.text = std::move(text);
     box.selected = -1;
+    if (Kind_Of(box) == Control_Kind::Combo) box.matches = Matches(box.entries, box.text);
     Fire(box);
 }
 
@@ -80,6 +104,12 @@ void Take_Pick(Live_Control& list, int index) {
         }
     }
     list.selected = index;
+}
+
+void Take_Return(Live_Control& combo) {
+    if (combo.selected >= 0 || combo.matches.size() != 1) return;
+    Take_Pick(combo, static_cast<int>(combo.matches.front()));
+    combo.Show_Text();
 }
 
 void Refuse_Folder(const std::string& name) {
@@ -107,6 +137,7 @@ void Set_Text(Control_Ref control, std::string_view text) {
     if (live == nullptr || (!is_combo && live->text == text)) return;
     live->text = text;
     live->selected = -1;
+    live->matches.clear();
     live->Show_Text();
     if (!is_combo) common::Call(live->row->handler);
 }

@@ -31,6 +31,7 @@ struct Live_Control {
     bool transparent;
     std::vector<std::string> entries;  ///< of a combo, list, drive or folder list
     int selected = -1;                 ///< the picked entry
+    std::vector<std::size_t> matches;  ///< of a combo box: the entries that typing has found
     std::string folder;                ///< of a folder list
     Progress progress;
     bool running;          ///< of a timer, also with an interval of 0
@@ -129,7 +130,17 @@ void Destroy_Windows();
 /// The user has done to the control what its handler is for.
 void Fire(const Live_Control& control);
 
-/// The user has changed the text of a text or combo box; in a combo box nothing is picked then.
+/// The places of the entries that hold a text in any case, those first that a user who types it is
+/// likely to mean: whose code, in brackets at their end, is the text, then those that begin with
+/// it, then the rest, each in their own order. None for an empty text.
+std::vector<std::size_t> Matches(const std::vector<std::string>& entries, std::string_view typed);
+
+/// Whether a combo box shows the text that it started with. It is marked whole then wherever the
+/// user puts the cursor, so that typing replaces it.
+bool Shows_Hint(const Live_Control& combo);
+
+/// The user has changed the text of a text or combo box; in a combo box nothing is picked then, and
+/// the text looks for its matches.
 void Take_Typed(Live_Control& box, std::string text);
 
 /// The user has clicked a button, check box, option button or menu entry.
@@ -137,6 +148,9 @@ void Take_Click(Live_Control& control);
 
 /// The user has picked an entry of a combo box or list; -1 for none.
 void Take_Pick(Live_Control& list, int index);
+
+/// The user has pressed Return in a combo box: takes the only match where none has been picked.
+void Take_Return(Live_Control& combo);
 
 /// Tells the user that a folder, named here with "?" for such characters, cannot be used.
 void Refuse_Folder(const std::string& name);

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <numeric>
 
-#include "platform/code_page.h"
 #include "platform/windows/controls.h"
 #include "platform/windows/measures.h"
 #include "platform/windows/text.h"
@@ -125,6 +124,8 @@ bool Take_Key(Live_Control& combo, WPARAM key) {
             Is_Open(combo) ? Close_List(combo) : Open_Whole_List(combo);
             return true;
         case VK_RETURN:
+            Take_Return(combo);
+            [[fallthrough]];
         case VK_ESCAPE:
             Close_List(combo);
             return true;
@@ -158,6 +159,12 @@ LRESULT CALLBACK Edit_Procedure(HWND edit, UINT message, WPARAM first, LPARAM se
         case WM_MOUSEWHEEL:
             if (Is_Open(combo)) return SendMessageW(combo.list, message, first, second);
             break;
+        case WM_SETFOCUS:
+        case WM_LBUTTONUP: {
+            const LRESULT done = DefSubclassProc(edit, message, first, second);
+            if (Shows_Hint(combo)) SendMessageW(edit, EM_SETSEL, 0, -1);
+            return done;
+        }
         case WM_KILLFOCUS:
             Close_List(combo);
             break;
@@ -221,13 +228,7 @@ void Show_Combo_Text(Live_Control& combo) {
 
 void Narrow_Combo(Live_Control& combo) {
     Take_Typed(combo, Window_Text(combo.handle));
-    const std::string typed = Lower_Case(combo.text);
-    combo.matches.clear();
-    for (std::size_t i = 0; i < combo.entries.size(); ++i) {
-        if (Lower_Case(combo.entries[i]).find(typed) != std::string::npos)
-            combo.matches.push_back(i);
-    }
-    if (typed.empty() || combo.matches.empty()) {
+    if (combo.matches.empty()) {
         Close_List(combo);
     } else {
         Open_List(combo);

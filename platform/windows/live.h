@@ -24,8 +24,7 @@ struct Live_Control final : common::Live_Control {
     HFONT font = nullptr;     ///< of its own, if it has one
     bool is_setting = false;  ///< the program is at work on it: what it tells is no news
 
-    HWND list = nullptr;                   ///< the one that a combo box drops
-    std::vector<std::size_t> matches;      ///< entries that stand in it, narrowed by typing
+    HWND list = nullptr;                   ///< the one that a combo box drops: its matches
     std::vector<std::wstring> subfolders;  ///< of a folder list, by their native names
     HWND path_line = nullptr;              ///< above a folder list: where it is
 

@@ -318,6 +318,24 @@ TEST_F(Conformance, Only_A_Picked_Entry_Is_A_Selection) {
     EXPECT_EQ(selected(), std::pair(-1, ""s));
 }
 
+TEST_F(Conformance, Typing_Replaces_The_Hint_And_Return_Takes_The_Only_Match_Alone) {
+    if (!driver::Has_Screen()) GTEST_SKIP();
+    Add_Entries(Combo1, std::array{"Alpha (BETA)"s, "Bet (ALPH)"s, "Gamma (GAMM)"s});
+    const auto expect_taken = [](bool by_tab, const char* typed, int index, const char* text) {
+        Set_Text(Combo1, "[]");
+        driver::Click(by_tab ? Main("Button1") : Combo1);
+        if (by_tab) driver::Press_Key(Main_Window, driver::Tab);
+        driver::Type_Keys(Main_Window, typed);
+        EXPECT_EQ(std::pair(Selected_Index(Combo1), Text_Of(Combo1)), std::pair(-1, typed + ""s));
+        driver::Press_Key(Main_Window, driver::Enter);
+        EXPECT_EQ(std::pair(Selected_Index(Combo1), Text_Of(Combo1)), std::pair(index, text + ""s));
+    };
+    expect_taken(false, "bet", -1, "bet");
+    expect_taken(false, "GAMm", 2, "Gamma (GAMM)");
+    expect_taken(true, "beta", 0, "Alpha (BETA)");
+    expect_taken(true, "x", -1, "x");
+}
+
 TEST_F(Conformance, A_List_Keeps_The_Order_Of_Addition_And_Forgets_Its_Selection_With_Its_Entries) {
     const std::string lines[] = {"z", "a"};
     Add_Entries(List1, lines);
@@ -346,7 +364,7 @@ TEST_F(Conformance, A_Progress_Bar_Keeps_Its_Value_Inside_Its_Range) {
 TEST_F(Conformance, A_Folder_List_Moves_Only_To_Folders_That_Exist_And_That_Can_Be_Named) {
     Show(Second_Window);
     constexpr auto Dir1 = Second("Dir1");
-    Set_Folder_Path(Dir1, "");
+    Set_Folder_Path(Dir1, ".");
     const std::string working_folder = Folder_Path(Dir1);
     EXPECT_EQ(working_folder, Current_Folder());
     Set_Folder_Path(Dir1, "/no such folder/");
@@ -365,6 +383,18 @@ TEST_F(Conformance, A_Folder_List_Moves_Only_To_Folders_That_Exist_And_That_Can_
     EXPECT_EQ(driver::Take_Messages().size(), 1U);
     EXPECT_EQ(Folder_Path(Dir1), path);
     EXPECT_EQ(counts.moves, 0);
+    if (driver::Has_Screen()) {
+        for (const char* name : {"alpha", "Beta 1", "beta 2"})
+            std::filesystem::create_directory(folder / name);
+        Set_Folder_Path(Dir1, "/");
+        Set_Folder_Path(Dir1, folder.string());
+        Set_Checked(Second("Option1"), true);
+        while (driver::Focus(Second_Window) != "Dir1")
+            driver::Press_Key(Second_Window, driver::Tab);
+        driver::Type_Keys(Second_Window, "bb");
+        driver::Press_Key(Second_Window, driver::Enter);
+        EXPECT_TRUE(Folder_Path(Dir1).ends_with("beta 2")) << Folder_Path(Dir1);
+    }
     std::filesystem::remove_all(folder);
 }
 

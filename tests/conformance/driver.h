@@ -55,6 +55,9 @@ bool Has_Screen();
 enum Stroke { Tab, Enter };
 void Press_Key(const platform::Window& window, Stroke key);
 
+/// Types letters in it, as the next thing after what was done before.
+void Type_Keys(const platform::Window& window, const std::string& text);
+
 /// The name of the control that has the window's focus; empty if none has.
 std::string Focus(const platform::Window& window);
 

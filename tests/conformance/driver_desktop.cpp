@@ -80,7 +80,9 @@ long long Clock() {
 }
 
 void Click(Control_Ref control) {
-    QTest::mouseClick(desktop::Find_Live(control)->widget, Qt::LeftButton, {}, QPoint(8, 8));
+    QWidget* widget = desktop::Find_Live(control)->widget;
+    QWidget* part = widget->childAt(8, 8);  // the text of a combo box
+    QTest::mouseClick(part != nullptr ? part : widget, Qt::LeftButton, {}, QPoint(8, 8));
 }
 
 void Double_Click(QListView& view, QPoint place) {
@@ -163,6 +165,10 @@ void Press_Key(const Window& window, Stroke key) {
     QWidget* widget = desktop::Find_Window(window);
     if (widget->focusWidget() != nullptr) widget = widget->focusWidget();
     QTest::keyClick(widget, key == Tab ? Qt::Key_Tab : Qt::Key_Return);
+}
+
+void Type_Keys(const Window& window, const std::string& text) {
+    QTest::keyClicks(desktop::Find_Window(window)->focusWidget(), desktop::To_Qt(text));
 }
 
 std::string Focus(const Window& window) {

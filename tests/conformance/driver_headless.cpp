@@ -90,6 +90,8 @@ bool Has_Screen() {
 
 void Press_Key(const Window&, Stroke) {}
 
+void Type_Keys(const Window&, const std::string&) {}
+
 std::string Focus(const Window&) {
     return {};
 }

@@ -143,10 +143,7 @@ void Type(Control_Ref combo, const std::string& text) {
     const HWND edit = GetWindow(windows::Find_Live(combo)->handle, GW_CHILD);
     Click_At(edit, 8, 5);
     SendMessageW(edit, EM_SETSEL, 0, -1);
-    for (const wchar_t character : windows::To_Wide(text)) {
-        PostMessageW(edit, WM_CHAR, character, 0);
-        Advance(20);
-    }
+    Type_Keys(*combo.window, text);
     Strike(VK_ESCAPE);
     Strike(VK_TAB);
 }
@@ -194,6 +191,13 @@ bool Has_Screen() {
 void Press_Key(const Window& window, Stroke key) {
     SetForegroundWindow(windows::Find_Window(window)->handle);
     Strike(key == Tab ? VK_TAB : VK_RETURN);
+}
+
+void Type_Keys(const Window&, const std::string& text) {
+    for (const wchar_t character : windows::To_Wide(text)) {
+        PostMessageW(GetFocus(), WM_CHAR, character, 0);
+        Advance(20);
+    }
 }
 
 std::string Focus(const Window& window) {

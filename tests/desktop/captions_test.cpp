@@ -103,6 +103,18 @@ TEST(Folders, The_First_Folder_Of_The_Root_Must_Open_And_Be_Told_And_Named) {
     EXPECT_EQ(list.findChild<QLabel*>()->text().toStdString(), first);
 }
 
+TEST(Folders, A_First_Look_Begins_On_The_Drive_Of_Wine_Or_In_The_Home_Folder) {
+    const QTemporaryDir home;
+    const std::string drive = home.path().toStdString() + "/.wine/drive_c";
+    qputenv("HOME", home.path().toUtf8());
+    qunsetenv("WINEPREFIX");
+    EXPECT_EQ(platform::desktop::Folder_List(nullptr).Path(), home.path().toStdString());
+    QDir().mkpath(QString::fromStdString(drive));
+    EXPECT_EQ(platform::desktop::Folder_List(nullptr).Path(), drive);
+    qputenv("WINEPREFIX", "/no such folder");
+    EXPECT_EQ(platform::desktop::Folder_List(nullptr).Path(), home.path().toStdString());
+}
+
 // Over its window, whose picture is whole by then.
 TEST(Messages, A_Message_Stands_In_The_Way_Cuts_Its_Title_Or_Mixes_The_Separators) {
     platform::Show(plain);

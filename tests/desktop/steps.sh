@@ -36,6 +36,8 @@ end_by() {
 rm -rf "$folder"
 mkdir -p "$pictures"
 cd "$folder" || exit 1
+# The list of folders begins here; under Wine it does so by itself.
+[ "${3:-}" = on-screen ] || { export HOME=$folder; unset WINEPREFIX; }
 "$bin/make_world" "$folder/fs2002" || fail "no world"
 
 # Sets the program up for the world, as a run before would have left it.

@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFontMetricsF>
 #include <QPdfWriter>
 #include <cmath>
@@ -86,7 +87,8 @@ bool Save_To_File(const std::string& title, const QByteArray& pdf) {
         name = title + " (" + std::to_string(number) + ").pdf";
     const auto* first = reinterpret_cast<const std::uint8_t*>(pdf.constData());
     if (!Write_File(name, {first, static_cast<std::size_t>(pdf.size())}).empty()) return false;
-    Message_Box("The page was printed to the file \"" + Current_Folder() + "/" + name +
+    Message_Box("The page was printed to the file \"" +
+                    desktop::From_Qt_Lossy(QDir::currentPath()) + "/" + name +
                     "\", because no default printer was found.",
                 Icon::Information, Message_Title);
     return true;

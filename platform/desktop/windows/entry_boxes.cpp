@@ -13,6 +13,32 @@
 
 namespace platform::desktop {
 
+/// The entries that match what was typed; only those on the screen are made.
+class Match_Model final : public QAbstractListModel {
+  public:
+    Match_Model(const Live_Control& combo, QObject* parent)
+        : QAbstractListModel(parent), live(combo) {}
+
+    void Renew() {
+        beginResetModel();
+        matches = live.matches;
+        endResetModel();
+    }
+
+    int Entry(int row) const { return static_cast<int>(matches[static_cast<std::size_t>(row)]); }
+
+    int rowCount(const QModelIndex&) const override { return static_cast<int>(matches.size()); }
+
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
+        return To_Qt(live.entries[static_cast<std::size_t>(Entry(index.row()))]);
+    }
+
+  private:
+    const Live_Control& live;
+    std::vector<std::size_t> matches;
+};
+
 namespace {
 
 constexpr int Rows_Shown = 14;
@@ -72,7 +98,10 @@ void Entry_List::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 Entry_Combo::Entry_Combo(Live_Control& control, QWidget* parent)
-    : QComboBox(parent), live(control), model_of_entries(new QStringListModel(this)) {
+    : QComboBox(parent),
+      live(control),
+      model_of_entries(new QStringListModel(this)),
+      model_of_matches(new Match_Model(control, this)) {
     setView(New_List_View());
     setModel(model_of_entries);
     setEditable(true);
@@ -84,26 +113,48 @@ Entry_Combo::Entry_Combo(Live_Control& control, QWidget* parent)
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     Build_Completer();
     connect(this, &QComboBox::activated, this, [this](int index) { Take_Pick(live, index); });
-    connect(lineEdit(), &QLineEdit::textEdited, this,
-            [this](const QString& typed) { Take_Typed(live, From_Qt_Lossy(typed)); });
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
+        Take_Typed(live, From_Qt_Lossy(typed));
+        model_of_matches->Renew();
+    });
+    connect(lineEdit(), &QLineEdit::returnPressed, this, [this] { Take_Return(live); });
     connect(lineEdit(), &QLineEdit::textChanged, this, [this] { Fit_Text(); });
+    lineEdit()->installEventFilter(this);
 }
 
 void Entry_Combo::Build_Completer() {
     auto* completer = new QCompleter(this);
     completer->setPopup(New_List_View());
-    completer->setModel(model_of_entries);
-    completer->setCaseSensitivity(Qt::CaseInsensitive);
-    completer->setFilterMode(Qt::MatchContains);
+    completer->setModel(model_of_matches);
+    completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     completer->setMaxVisibleItems(Rows_Shown);
     setCompleter(completer);
     // An entry that the arrow keys have reached stands in the text box, so it is picked.
-    connect(completer, qOverload<const QModelIndex&>(&QCompleter::highlighted), this,
-            [this, completer](const QModelIndex& index) {
-                const auto* proxy =
-                    qobject_cast<QAbstractProxyModel*>(completer->completionModel());
-                if (index.isValid()) Take_Pick(live, proxy->mapToSource(index).row());
+    const auto take = [this, completer](const QModelIndex& index) {
+        const auto* proxy = qobject_cast<QAbstractProxyModel*>(completer->completionModel());
+        if (!index.isValid()) return;
+        Take_Pick(live, model_of_matches->Entry(proxy->mapToSource(index).row()));
+    };
+    connect(completer, qOverload<const QModelIndex&>(&QCompleter::highlighted), this, take);
+    connect(completer, qOverload<const QModelIndex&>(&QCompleter::activated), this,
+            [this, take](const QModelIndex& index) {
+                take(index);
+                Show_Text();
             });
+}
+
+void Entry_Combo::Mark_Hint() {
+    if (Shows_Hint(live)) lineEdit()->selectAll();
+}
+
+bool Entry_Combo::eventFilter(QObject* text_box, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease) Mark_Hint();
+    return QComboBox::eventFilter(text_box, event);
+}
+
+void Entry_Combo::focusInEvent(QFocusEvent* event) {
+    QComboBox::focusInEvent(event);
+    Mark_Hint();
 }
 
 /// A name a little too long for the box is condensed rather than cut.
@@ -120,15 +171,17 @@ void Entry_Combo::resizeEvent(QResizeEvent* event) {
 
 void Entry_Combo::Set_Entries(const QStringList& entries) {
     model_of_entries->setStringList(entries);
+    model_of_matches->Renew();
     const int list_width = List_Width(entries, *view());
     view()->setMinimumWidth(list_width);
     completer()->popup()->setMinimumWidth(list_width);
 }
 
 void Entry_Combo::Show_Text() {
-    setCurrentIndex(-1);
+    setCurrentIndex(live.selected);
     setEditText(To_Qt(live.text));
     lineEdit()->setCursorPosition(0);
+    if (hasFocus()) Mark_Hint();
 }
 
 }  // namespace platform::desktop

@@ -8,6 +8,7 @@
 namespace platform::desktop {
 
 struct Live_Control;
+class Match_Model;
 
 /// Refuses characters that the program's code page does not have, as they are typed.
 class Code_Page_Validator final : public QValidator {
@@ -42,18 +43,22 @@ class Entry_Combo final : public QComboBox {
     /// Replaces all entries.
     void Set_Entries(const QStringList& entries);
 
-    /// Shows the control's text, which is no pick.
+    /// Shows the control's text, picked or not.
     void Show_Text();
 
   protected:
+    bool eventFilter(QObject* text_box, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
     void Build_Completer();
     void Fit_Text();
+    void Mark_Hint();
 
     Live_Control& live;
     QStringListModel* model_of_entries;
+    Match_Model* model_of_matches;
 };
 
 }  // namespace platform::desktop

@@ -1,6 +1,8 @@
 #include "platform/desktop/windows/folder_list.h"
 
+#include <QDir>
 #include <QEvent>
+#include <QFileInfo>
 #include <QFontMetrics>
 #include <algorithm>
 
@@ -19,10 +21,32 @@ std::string Joined(const std::string& folder, const std::string& name) {
     return folder.back() == '/' ? folder + name : folder + "/" + name;
 }
 
+/// A letter goes to the next entry that begins with it, however fast letters come.
+class Rows final : public QListWidget {
+  public:
+    using QListWidget::QListWidget;
+
+    void keyboardSearch(const QString& letter) override {
+        for (int step = 1; step <= count(); ++step) {
+            const int row = (currentRow() + step) % count();
+            if (item(row)->text().startsWith(letter, Qt::CaseInsensitive))
+                return setCurrentRow(row);
+        }
+    }
+};
+
+/// Where a user begins to look for the simulator: on the drive of Wine, else in the home folder.
+QString Start_Folder() {
+    QString prefix = qEnvironmentVariable("WINEPREFIX");
+    if (prefix.isEmpty()) prefix = QDir::homePath() + "/.wine";
+    const QString drive = prefix + "/drive_c";
+    return QFileInfo(drive).isDir() ? drive : QDir::homePath();
+}
+
 }  // namespace
 
 Folder_List::Folder_List(QWidget* parent)
-    : QWidget(parent), place(new QLabel(this)), list(new QListWidget(this)) {
+    : QWidget(parent), place(new QLabel(this)), list(new Rows(this)) {
     place->setTextFormat(Qt::PlainText);
     setFocusProxy(list);
     setFocusPolicy(list->focusPolicy());  // the proxy's own does not count in the order of Tab
@@ -34,7 +58,8 @@ Folder_List::Folder_List(QWidget* parent)
 }
 
 bool Folder_List::Go_To(std::string_view program_path) {
-    std::string native = posix::Native_Path(program_path);
+    std::string native =
+        program_path.empty() ? Start_Folder().toStdString() : posix::Native_Path(program_path);
     if (native == ".") native = To_Utf8(Current_Folder());
     const std::optional<std::string> text = From_Utf8(native);
     if (!native.starts_with('/') || !text || text == path || !Folder_Exists(*text)) return false;

@@ -13,13 +13,13 @@ namespace platform::desktop {
 /// double click or the Enter key goes there.
 class Folder_List final : public QWidget {
   public:
-    /// Starts in the working folder.
+    /// Starts on the drive of Wine, else in the home folder.
     explicit Folder_List(QWidget* parent);
 
     /// The folder in Windows-1252, as the file system has it.
     const std::string& Path() const { return path; }
 
-    /// Goes to a folder by a path from the root, or to the working folder by an empty one; false,
+    /// Goes to a folder by its path, or back to the start by an empty one; false,
     /// changing nothing, if there is none, if it is the same, or if its own name holds characters
     /// that Windows-1252 does not have.
     bool Go_To(std::string_view program_path);
