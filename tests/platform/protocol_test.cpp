@@ -85,7 +85,7 @@ TEST_F(Protocol, A_Bad_Command_Is_No_Error_Or_Changes_Something) {
         EXPECT_TRUE(Execute(command).starts_with("error ")) << command;
     Expect({"clock = 0", "get Form9.Combo1.index = -1", "get Form9.width = 209",
             "simulator get 0 1 = 00", "simulator set 65535 Fe =", "simulator get 0xffff 1 = fe",
-            "messages ="});
+            "messages =", "printer ready ="});
 }
 
 TEST_F(Protocol, A_Verb_Is_Undocumented_Or_A_Documented_One_Unknown) {
@@ -131,7 +131,7 @@ TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
 }
 
 TEST_F(Protocol, Drives_Stand_In_Windows_Already_Loaded) {
-    Expect({"drives c: [SYSTEM]|d: =", "items Form9.Drive1 ="});
+    Expect({"drives z: =", "drives c: [SYSTEM]|d: =", "items Form9.Drive1 ="});
     common::On_Event([] {
         Unload(Sample);
         Show(Sample);
