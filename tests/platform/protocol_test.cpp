@@ -12,6 +12,8 @@
 #include "platform/link.h"
 #include "platform/message_box.h"
 #include "platform/program.h"
+#include "platform/simulator/simulator.h"
+#include "simlink/fsuipc.h"
 #include "tests/platform/scratch_folder.h"
 
 using namespace platform;
@@ -83,7 +85,7 @@ TEST_F(Protocol, A_Bad_Command_Is_No_Error_Or_Changes_Something) {
         EXPECT_TRUE(Execute(command).starts_with("error ")) << command;
     Expect({"clock = 0", "get Form9.Combo1.index = -1", "get Form9.width = 209",
             "simulator get 0 1 = 00", "simulator set 65535 Fe =", "simulator get 0xffff 1 = fe",
-            "messages ="});
+            "messages =", "printer ready ="});
 }
 
 TEST_F(Protocol, A_Verb_Is_Undocumented_Or_A_Documented_One_Unknown) {
@@ -129,7 +131,7 @@ TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
 }
 
 TEST_F(Protocol, Drives_Stand_In_Windows_Already_Loaded) {
-    Expect({"drives c: [SYSTEM]|d: =", "items Form9.Drive1 ="});
+    Expect({"drives z: =", "drives c: [SYSTEM]|d: =", "items Form9.Drive1 ="});
     common::On_Event([] {
         Unload(Sample);
         Show(Sample);
@@ -228,4 +230,23 @@ TEST(Timers, A_Wait_Of_The_Program_Lets_A_Timer_Tick_Twice_Or_Shortens_An_Advanc
     EXPECT_EQ(Ticks(20), "b105 a105 b125 at 125");
     Ticks(100);
     EXPECT_EQ(headless::Clock(), 225);
+}
+
+TEST(Simulator, StateAreaIsReadOrWrittenOutsideOrOutOfPlace) {
+    simulator::Start("UIPCMAIN");
+    simulator::Put(0xFFFF, 7, 1);
+    simulator::Put(0, 5, 1);
+    std::int32_t result = 99;
+    ASSERT_TRUE(skerrand::Open_Link(6, result));
+    const std::uint32_t zeros = 0;
+    for (const auto& [offset, before, after] : std::initializer_list<std::array<std::uint32_t, 3>>{
+             {0xFFFF, 7, 0}, {0x10000, 0, 0}, {0xFFFFFFFF, 0, 0}, {0x3309, 0xFADE00, 0xFADE00}}) {
+        std::uint32_t read = 9, again = 9;
+        skerrand::Queue_Read(offset, 4, &read, result);
+        skerrand::Queue_Write(offset, 4, &zeros, result);
+        skerrand::Queue_Read(offset, 4, &again, result);
+        EXPECT_TRUE(skerrand::Process_Queue(result));
+        EXPECT_EQ(std::pair(read, again), std::pair(before, after)) << offset;
+    }
+    skerrand::Close_Link();
 }
