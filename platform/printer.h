@@ -11,7 +11,8 @@
 namespace platform {
 
 /// Takes the printer that is the system's default now, and drops an unfinished document. False if
-/// there is none that can be reached.
+/// there is none that can be reached; a back-end may open a page in its place that takes no
+/// document.
 bool Open_Printer();
 
 /// The printer's drawing target; null if no printer is open. What is drawn shows only between

@@ -66,6 +66,9 @@ bool Open_Printer() {
     Close_Printer();
     const std::wstring name = Default_Printer();
     if (!name.empty()) printer.dc = CreateDCW(L"WINSPOOL", name.c_str(), nullptr, nullptr);
+    // Without one the chart is still of use: its page is that of the screen, which takes no
+    // document.
+    if (printer.dc == nullptr) printer.dc = CreateCompatibleDC(nullptr);
     if (printer.dc == nullptr) return false;
     printer.device.is_page = true;
     printer.device.dots_per_inch = Measure(LOGPIXELSX);
@@ -98,7 +101,7 @@ Size Printable_Size() {
 }
 
 bool Start_Page(std::string_view document) {
-    if (printer.dc == nullptr) return false;
+    if (printer.dc == nullptr || Measure(TECHNOLOGY) == DT_RASDISPLAY) return false;
     Drop_Document();
     const std::wstring title = windows::To_Wide(document.substr(0, Longest_Title));
     DOCINFOW info{};

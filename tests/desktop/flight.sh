@@ -1,13 +1,15 @@
 #!/bin/bash
-# Flies the stand-in simulator's aircraft over a chart, and kills the simulator in mid-flight.
+# Flies the aircraft of a stand-in simulator that is slow to answer over a chart, kills the simulator
+# in mid-flight, and prints without a printer.
 . "$(dirname "$0")/steps.sh"
 
 set_up
 
 # So far that it does not land before the test ends, on a slow machine either.
-begin skerrand-simulator --departure KSEA --destination EGLL --speed-up 10 > flight.txt
+begin skerrand-simulator --departure KSEA --destination EGLL --speed-up 10 --answer-late 100 > flight.txt
 simulator=$program
 wait_for "the simulator does not stand" grep minutes flight.txt
+export CUPS_SERVER=$folder/none # no printer
 begin skerrand
 choose seattle heathrow
 
@@ -28,4 +30,6 @@ kill -KILL $simulator
 answer link-lost
 id=$chart
 wait_for "the aircraft stays on the chart" eval '[ "$(pixels "$chart" $green)" -eq 0 ]'
-close_program
+menu 20 2
+answer not-on-paper
+end_by TERM
