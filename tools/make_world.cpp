@@ -31,7 +31,7 @@ airspaces. FOLDER is created; if it holds a world that make_world wrote, that
 one is replaced, and any other folder that is not empty is refused.
 
   --data DIR    where the facts lie (demo_airports.txt, magnetic_variation.txt)
-                if not in the folder "data" beside this program
+                if not where they came with this program
   --airports N  N airports that do not exist instead of the real ones, at most
                 456976: the real ones with other names at other places, most of
                 them cut down to a strip, and airspaces in proportion
@@ -130,7 +130,10 @@ fs::path Self([[maybe_unused]] const char* name) {
 
 int main(int argc, char** argv) {
     Options options;
-    options.data = Self(argv[0]).parent_path() / "data";
+    const fs::path folder = Self(argv[0]).parent_path();
+    options.data = folder / "data";
+    // As it is installed on Linux.
+    if (!fs::exists(options.data)) options.data = folder.parent_path() / "share/skerrand";
     std::string fault = Parse_Options(argc, argv, options);
     if (!fault.empty()) return Fail(fault + "\nmake_world --help tells more.", 2);
     if (options.help) {

@@ -22,6 +22,30 @@ HBITMAP New_Bitmap(SIZE size) {
     return CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
 }
 
+HDC New_Context(HBITMAP bitmap) {
+    const HDC dc = CreateCompatibleDC(nullptr);
+    SelectObject(dc, bitmap);
+    SelectObject(dc, Default_Font());
+    SetBkMode(dc, TRANSPARENT);
+    return dc;
+}
+
+/// The picture of the splash window, which lies packed in the program, twice as large.
+void Draw_Picture(HDC dc, const RECT& place) {
+    const HRSRC found = FindResourceW(nullptr, L"picture", RT_BITMAP);
+    const auto* info = static_cast<const BITMAPINFO*>(LockResource(LoadResource(nullptr, found)));
+    const BITMAPINFOHEADER& size = info->bmiHeader;
+    const HBITMAP bitmap =
+        CreateDIBitmap(dc, &size, CBM_INIT, info->bmiColors + size.biClrUsed, info, DIB_RGB_COLORS);
+    const HDC whole = New_Context(bitmap);
+    SetStretchBltMode(dc, HALFTONE);
+    SetBrushOrgEx(dc, 0, 0, nullptr);
+    StretchBlt(dc, place.left, place.top, place.right - place.left, place.bottom - place.top, whole,
+               0, 0, size.biWidth, size.biHeight, SRCCOPY);
+    DeleteDC(whole);
+    DeleteObject(bitmap);
+}
+
 void Fill_All(const Live_Window& window) {
     const RECT all{0, 0, window.bitmap_size.cx, window.bitmap_size.cy};
     FillRect(window.device.dc, &all, window.back_brush);
@@ -29,14 +53,6 @@ void Fill_All(const Live_Window& window) {
         if (control.row->kind == Control_Kind::Picture)
             Draw_Picture(window.device.dc, control.place);
     }
-}
-
-HDC New_Context(HBITMAP bitmap) {
-    const HDC dc = CreateCompatibleDC(nullptr);
-    SelectObject(dc, bitmap);
-    SelectObject(dc, Default_Font());
-    SetBkMode(dc, TRANSPARENT);
-    return dc;
 }
 
 }  // namespace
