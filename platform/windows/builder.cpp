@@ -151,6 +151,7 @@ void Tell_Name(HWND handle, const std::wstring& name) {
     if (services == nullptr) return;
     constexpr auto client = static_cast<DWORD>(OBJID_CLIENT);
     for (const HWND part : {handle, GetWindow(handle, GW_CHILD)}) {
+        if (part == nullptr) continue;
         if (name.empty()) {
             services->ClearHwndProps(part, client, CHILDID_SELF, &PROPID_ACC_NAME, 1);
         } else {

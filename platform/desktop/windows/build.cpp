@@ -96,7 +96,6 @@ QWidget* New_Line(Live_Control& control, QWidget* holder) {
 QWidget* New_Lines(QWidget* holder) {
     auto* lines = new QPlainTextEdit(holder);
     lines->setReadOnly(true);
-    lines->setTabChangesFocus(true);
     lines->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     return lines;
 }
