@@ -19,7 +19,10 @@ void Timer1_Timer();
 
 constexpr Control controls[] = {
     // 320 by 240 pixels at 15 twips each; the window cuts its last columns off.
-    {.name = "Picture1", .kind = Picture, .at = {0, 0, 4800, 3600}},
+    {.name = "Picture1",
+     .kind = Picture,
+     .at = {0, 0, 4800, 3600},
+     .spoken = "Chart of an airport"},
     {.name = "Label1",
      .kind = Label,
      .at = {120, 120, 4335, 855},

@@ -49,7 +49,8 @@ constexpr Control controls[] = {
      .kind = Button,
      .at = {4440, 2880, 1335, 495},
      .caption = "Cancel",
-     .handler = Command2_Click},
+     .handler = Command2_Click,
+     .cancels = true},
 };
 
 }  // namespace

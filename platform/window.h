@@ -65,17 +65,21 @@ struct Control {
     const char* caption = "";
     /// Called by the one event that matters for the kind: the click of a button, check box, option
     /// button or menu entry; the change of a text box, drive list or folder list; the double click
-    /// of a list; the tick of a timer.
+    /// of a list, or Return or the space bar let go in it; the tick of a timer.
     Handler handler = nullptr;
     /// Timer only: milliseconds between ticks; 0 never ticks.
     int interval = 0;
     /// Whether the control takes input; for a timer, whether it runs from the load on.
     bool enabled = true;
+    /// What a screen reader calls the control where neither its own caption nor the one ahead of it
+    /// tells that (see `Spoken_Name`).
+    const char* spoken = "";
     bool read_only = false;    ///< text box: the user cannot type in it
     bool multi_line = false;   ///< text box: several lines, only to be read, with a scroll bar
     bool centred = false;      ///< text box: the text is centred
     bool sorted = false;       ///< combo, list: entries are kept in the order of their bytes
     bool transparent = false;  ///< label: the background shows through
+    bool cancels = false;      ///< button: the Escape key presses it
     Font font = {};
     Colour colour = Colour_Black;  ///< of the text
     /// Place in the order of the Tab key, from 0; -1 comes behind all numbers, by the table. Of the
@@ -128,6 +132,18 @@ consteval Control_Ref Find_Control(const Window& window, std::string_view name) 
         if (window.controls[i].name == name) return {&window, i};
     }
     throw "no control of that name in the window's table";
+}
+
+/// The name that a screen reader is told of a control beside its caption: the one in its table, or
+/// for a kind that has no caption the one of the label or frame right ahead of it, without a colon
+/// at its end. Empty where the caption serves.
+constexpr std::string_view Spoken_Name(const Window& window, std::size_t index) {
+    const Control& row = window.controls[index];
+    const bool has_caption = row.kind <= Control_Kind::Button || row.kind == Control_Kind::Check ||
+                             row.kind == Control_Kind::Option || row.kind == Control_Kind::Menu;
+    if (*row.spoken != '\0' || has_caption || index == 0) return row.spoken;
+    const std::string_view ahead = window.controls[index - 1].caption;
+    return ahead.substr(0, ahead.size() - (ahead.ends_with(':') ? 1 : 0));
 }
 
 enum class Window_State : std::uint8_t { Normal, Minimised };

@@ -94,6 +94,13 @@ void Take_Click(Live_Control& control) {
     Fire(control);
 }
 
+void Take_Escape(const Live_Window& window) {
+    for (Live_Control* control : window.rows) {
+        if (control->row->cancels && control->enabled && window.takes_input)
+            return Take_Click(*control);
+    }
+}
+
 void Take_Pick(Live_Control& list, int index) {
     if (Kind_Of(list) == Control_Kind::Combo) {
         // A text that was picked goes with its selection, one that was typed or set stays.

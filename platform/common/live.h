@@ -146,6 +146,9 @@ void Take_Typed(Live_Control& box, std::string text);
 /// The user has clicked a button, check box, option button or menu entry.
 void Take_Click(Live_Control& control);
 
+/// The user has pressed the Escape key in the window.
+void Take_Escape(const Live_Window& window);
+
 /// The user has picked an entry of a combo box or list; -1 for none.
 void Take_Pick(Live_Control& list, int index);
 

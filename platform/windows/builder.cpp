@@ -3,6 +3,7 @@
 #include "platform/windows/canvas.h"
 #include "platform/windows/controls.h"
 #include "platform/windows/measures.h"
+#include "platform/windows/text.h"
 
 namespace platform::windows {
 
@@ -74,25 +75,53 @@ RECT Place_Of(const Live_Window& window, const Control& row) {
     return To_Pixels(at);
 }
 
+/// When the key goes up: a window that waits for keys would take one that is down for its own.
+LRESULT CALLBACK List_Procedure(HWND handle, UINT message, WPARAM first, LPARAM second, UINT_PTR,
+                                DWORD_PTR reference) {
+    const LRESULT result = DefSubclassProc(handle, message, first, second);
+    const bool opens = message == WM_KEYUP && (first == VK_RETURN || first == VK_SPACE);
+    if (opens) Take_Notice(*reinterpret_cast<Live_Control*>(reference), LBN_DBLCLK);
+    return result;
+}
+
+/// A text of several lines would keep Tab and Escape to itself.
+LRESULT CALLBACK Lines_Procedure(HWND handle, UINT message, WPARAM first, LPARAM second, UINT_PTR,
+                                 DWORD_PTR) {
+    return message == WM_GETDLGCODE ? DLGC_WANTARROWS
+                                    : DefSubclassProc(handle, message, first, second);
+}
+
 void Build_Control(Live_Control& control, bool starts_group) {
     const Native_Kind kind = Kind_Of(control);
     if (kind.class_name == nullptr) return;
     const Control& row = *control.row;
     const Live_Window& window = control.Holder();
     const RECT& place = control.place;
-    const auto id = First_Id + (&control - window.controls.data());
+    const auto index = &control - window.controls.data();
+    const std::wstring name = To_Wide(Spoken_Name(window.table, static_cast<std::size_t>(index)));
     control.handle = CreateWindowExW(
-        kind.extended_style, kind.class_name, L"",
+        kind.extended_style, kind.class_name, name.c_str(),
         kind.style | WS_CHILD | WS_VISIBLE | (starts_group ? DWORD{WS_GROUP} : 0), place.left,
         place.top, place.right - place.left, place.bottom - place.top, window.handle,
-        reinterpret_cast<HMENU>(id), GetModuleHandleW(nullptr), nullptr);
+        reinterpret_cast<HMENU>(First_Id + index), GetModuleHandleW(nullptr), nullptr);
     const HFONT font = control.font != nullptr ? control.font : Default_Font();
     SendMessageW(control.handle, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     if (row.kind == Control_Kind::Combo) Set_Up_Combo(control);
     if (row.kind == Control_Kind::Drive) Fill_Drives(control);
     if (row.kind == Control_Kind::Folder) Set_Up_Folder_List(control);
+    if (!name.empty()) Tell_Name(control.handle, name);
+    const auto reference = reinterpret_cast<DWORD_PTR>(&control);
+    if (row.kind == Control_Kind::List) {
+        SetWindowSubclass(control.handle, List_Procedure, 0, reference);
+    } else if (row.multi_line) {
+        SetWindowSubclass(control.handle, Lines_Procedure, 0, reference);
+    }
     const bool has_text = row.kind == Control_Kind::Text || row.kind == Control_Kind::Combo;
-    has_text ? control.Show_Text() : control.Show_Caption();
+    if (has_text) {
+        control.Show_Text();
+    } else if (!control.caption.empty()) {
+        control.Show_Caption();
+    }
     EnableWindow(control.handle, row.enabled);
 }
 
@@ -108,6 +137,26 @@ void Build_Controls(Live_Window& window) {
         const bool is_option = row.kind == Control_Kind::Option;
         Build_Control(control, !is_option || !in_options);
         in_options = is_option;
+    }
+}
+
+void Tell_Name(HWND handle, const std::wstring& name) {
+    static IAccPropServices* const services = [] {
+        void* made = nullptr;
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                         &made);
+        return static_cast<IAccPropServices*>(made);
+    }();
+    if (services == nullptr) return;
+    constexpr auto client = static_cast<DWORD>(OBJID_CLIENT);
+    for (const HWND part : {handle, GetWindow(handle, GW_CHILD)}) {
+        if (part == nullptr) continue;
+        if (name.empty()) {
+            services->ClearHwndProps(part, client, CHILDID_SELF, &PROPID_ACC_NAME, 1);
+        } else {
+            services->SetHwndPropStr(part, client, CHILDID_SELF, PROPID_ACC_NAME, name.c_str());
+        }
     }
 }
 

@@ -21,6 +21,10 @@ void Enable_Menu(const Live_Control& entry);
 /// Makes the native windows of all controls, in the order of the Tab key.
 void Build_Controls(Live_Window& window);
 
+/// Tells screen readers a name for a control, and for the text box in a combo box, in place of the
+/// one that they would find; an empty one takes it back.
+void Tell_Name(HWND handle, const std::wstring& name);
+
 /// What a control is painted on, with its colours set in `dc`; null for the system's own choice.
 HBRUSH Back_Brush(Live_Window& window, HWND handle, HDC dc);
 

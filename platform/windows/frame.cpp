@@ -81,6 +81,7 @@ Live_Window::Live_Window(const Window& window)
 Live_Window::~Live_Window() {
     for (Live_Control& control : controls) {
         if (control.list != nullptr) DestroyWindow(control.list);
+        Tell_Name(control.handle, {});
         Drop_Narrow_Font(control);
     }
     SetWindowLongPtrW(handle, GWLP_USERDATA, 0);

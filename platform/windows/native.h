@@ -18,4 +18,6 @@
 // These lean on the one above.
 #include <commctrl.h>
 #include <mmsystem.h>
+#include <ole2.h>
+#include <oleacc.h>
 #include <winspool.h>

@@ -33,6 +33,7 @@ void Take_Press(const Live_Window& window, Mouse_Button button, LPARAM parameter
 }
 
 void Take_Command(Live_Window& window, WPARAM parameter, bool from_control) {
+    if (LOWORD(parameter) == IDCANCEL) return Take_Escape(window);  // by the system's own number
     Live_Control* control = Control_Of_Id(window, LOWORD(parameter));
     if (control == nullptr) return;
     if (!from_control) return Fire(*control);

@@ -195,6 +195,24 @@ TEST_F(Conformance, Tab_Goes_By_The_Table_Enter_Presses_And_What_Is_Enabled_Agai
     }
 }
 
+TEST_F(Conformance, Escape_Presses_What_Cancels_And_Return_Or_Space_In_A_List_Is_A_Double_Click) {
+    if (!driver::Has_Screen()) GTEST_SKIP();
+    Add_Entries(List1, std::array{"z"s, "a"s});
+    while (driver::Focus(Main_Window) != "List1")
+        driver::Press_Key(Main_Window, driver::Tab);
+    driver::Press_Key(Main_Window, driver::Down);
+    for (const auto key : {driver::Enter, driver::Space})
+        driver::Press_Key(Main_Window, key);
+    EXPECT_EQ(Selected_Index(List1), 0);
+    EXPECT_EQ(counts.double_clicks, 2);
+    Show(Second_Window);
+    for (const bool enabled : {true, false}) {
+        Set_Enabled(Second("Button1"), enabled);
+        driver::Press_Key(Second_Window, driver::Escape);
+        EXPECT_EQ(counts.clicks, 1);
+    }
+}
+
 TEST_F(Conformance, A_Key_That_A_Window_Takes_Moves_No_Focus_And_Presses_No_Button) {
     Show(Key_Window);
     driver::Click(Find_Control(Key_Window, "Button1"));

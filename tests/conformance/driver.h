@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -52,7 +53,7 @@ void Key(int code, bool down);
 bool Has_Screen();
 
 /// Presses a key in the window, as if it were the active one.
-enum Stroke { Tab, Enter };
+enum Stroke { Tab, Enter, Escape, Space, Down };
 void Press_Key(const platform::Window& window, Stroke key);
 
 /// Types letters in it, as the next thing after what was done before.
@@ -60,6 +61,16 @@ void Type_Keys(const platform::Window& window, const std::string& text);
 
 /// The name of the control that has the window's focus; empty if none has.
 std::string Focus(const platform::Window& window);
+
+/// What a screen reader is told of a control: its name, and whether its role is that of its kind.
+/// Nothing where that cannot be asked for.
+struct Spoken {
+    std::string name;
+    bool has_role;
+
+    friend bool operator==(const Spoken&, const Spoken&) = default;
+};
+std::optional<Spoken> Spoken_Of(platform::Control_Ref control);
 
 /// Where the outer frame begins, in pixels of the screen, and whether it stays above all others.
 struct Frame {

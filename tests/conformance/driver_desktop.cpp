@@ -164,7 +164,9 @@ bool Has_Screen() {
 void Press_Key(const Window& window, Stroke key) {
     QWidget* widget = desktop::Find_Window(window);
     if (widget->focusWidget() != nullptr) widget = widget->focusWidget();
-    QTest::keyClick(widget, key == Tab ? Qt::Key_Tab : Qt::Key_Return);
+    constexpr Qt::Key keys[] = {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space,
+                                Qt::Key_Down};
+    QTest::keyClick(widget, keys[key]);
 }
 
 void Type_Keys(const Window& window, const std::string& text) {
@@ -179,6 +181,20 @@ std::string Focus(const Window& window) {
             if (control.widget == focus) return control.row->name;
     }
     return {};
+}
+
+std::optional<Spoken> Spoken_Of(Control_Ref control) {
+    using QA = QAccessible;
+    constexpr QA::Role roles[] = {QA::Grouping,    QA::StaticText, QA::Button,   QA::EditableText,
+                                  QA::ComboBox,    QA::List,       QA::CheckBox, QA::RadioButton,
+                                  QA::ProgressBar, QA::ComboBox,   QA::List,     QA::MenuItem,
+                                  QA::NoRole,      QA::Graphic};
+    const desktop::Live_Control* live = desktop::Find_Live(control);
+    QWidget* part = live->widget->focusProxy();
+    const QAccessibleInterface* told =
+        QA::queryAccessibleInterface(part != nullptr ? part : live->widget);
+    return Spoken{desktop::From_Qt_Lossy(told->text(QA::Name)),
+                  told->role() == roles[static_cast<int>(live->row->kind)]};
 }
 
 Frame Frame_Of(const Window& window) {

@@ -190,7 +190,8 @@ bool Has_Screen() {
 
 void Press_Key(const Window& window, Stroke key) {
     SetForegroundWindow(windows::Find_Window(window)->handle);
-    Strike(key == Tab ? VK_TAB : VK_RETURN);
+    constexpr WORD keys[] = {VK_TAB, VK_RETURN, VK_ESCAPE, VK_SPACE, VK_DOWN};
+    Strike(keys[key]);
 }
 
 void Type_Keys(const Window&, const std::string& text) {
@@ -202,9 +203,42 @@ void Type_Keys(const Window&, const std::string& text) {
 
 std::string Focus(const Window& window) {
     for (const Live_Control& control : windows::Find_Window(window)->controls) {
-        if (control.handle != nullptr && control.handle == GetFocus()) return control.row->name;
+        const HWND focus = GetFocus();
+        if (focus != nullptr && (control.handle == focus || IsChild(control.handle, focus)))
+            return control.row->name;
     }
     return "";
+}
+
+// Wine keeps no annotations: what it tells is the text of a native window, or of the label ahead of
+// a text box; a role it has for text boxes alone.
+std::optional<Spoken> Spoken_Of(Control_Ref control) {
+    constexpr LONG roles[] = {
+        ROLE_SYSTEM_GROUPING,    ROLE_SYSTEM_STATICTEXT,  ROLE_SYSTEM_PUSHBUTTON,
+        ROLE_SYSTEM_TEXT,        ROLE_SYSTEM_COMBOBOX,    ROLE_SYSTEM_LIST,
+        ROLE_SYSTEM_CHECKBUTTON, ROLE_SYSTEM_RADIOBUTTON, ROLE_SYSTEM_PROGRESSBAR,
+        ROLE_SYSTEM_COMBOBOX,    ROLE_SYSTEM_LIST};
+    const Live_Control& live = *windows::Find_Live(control);
+    const Control_Kind kind = live.row->kind;
+    const bool is_annotated = *live.row->caption != '\0' && *live.row->spoken != '\0';
+    if (live.handle == nullptr || is_annotated || kind == Control_Kind::Combo ||
+        kind == Control_Kind::Drive)
+        return {};
+    IAccessible* told = nullptr;
+    BSTR name = nullptr;
+    VARIANT role, self;
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    AccessibleObjectFromWindow(live.handle, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                               reinterpret_cast<void**>(&told));
+    told->get_accName(self, &name);
+    told->get_accRole(self, &role);
+    told->Release();
+    std::string text = windows::From_Wide_Lossy(name != nullptr ? name : L"");
+    SysFreeString(name);
+    if (kind == Control_Kind::Text && text.ends_with(':')) text.pop_back();
+    return Spoken{text, role.lVal == roles[static_cast<int>(kind)] ||
+                            (role.lVal == ROLE_SYSTEM_CLIENT && kind != Control_Kind::Text)};
 }
 
 Frame Frame_Of(const Window& window) {

@@ -79,7 +79,11 @@ inline constexpr Control second_controls[] = {
     {.name = "Button2", .kind = Button, .at = {900, 2600, 600, 300}, .tab_index = 0},
     {"Dir1", Folder, "Frame1", {0, 200, 1500, 900}, "", Count<&Counts::moves>},
     {.name = "Text1", .kind = Text, .in = "Frame1", .at = {1500, 200, 900, 285}, .read_only = true},
-    {"Button1", Button, "", {0, 2600, 600, 300}, "", Count<&Counts::clicks>},
+    {.name = "Button1",
+     .kind = Button,
+     .at = {0, 2600, 600, 300},
+     .handler = Count<&Counts::clicks>,
+     .cancels = true},
 };
 inline constexpr Window Second_Window = {
     "Second_Window", "Second", 3000, 3000, second_controls, Fixed, Grey, {}, Load_Second};

@@ -96,7 +96,6 @@ QWidget* New_Line(Live_Control& control, QWidget* holder) {
 QWidget* New_Lines(QWidget* holder) {
     auto* lines = new QPlainTextEdit(holder);
     lines->setReadOnly(true);
-    lines->setTabChangesFocus(true);
     lines->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     return lines;
 }
@@ -147,6 +146,16 @@ QWidget* New_Widget(Live_Control& control, QWidget* holder) {
     }
 }
 
+/// Names it for screen readers, and the part of it that has the focus in its stead.
+void Name_Widget(const Live_Control& control) {
+    const Window& table = control.window->table;
+    const auto index = static_cast<std::size_t>(control.row - table.controls.data());
+    const QString name = To_Qt(Spoken_Name(table, index));
+    control.widget->setAccessibleName(name);
+    if (QWidget* list = control.widget->focusProxy()) list->setAccessibleName(name);
+    if (auto* line = control.widget->findChild<QLineEdit*>()) line->setAccessibleName(name);
+}
+
 /// Makes the widget, in its frame or on the client area, with its place, font and first texts.
 void Build_Widget(Live_Control& control) {
     const Control& row = *control.row;
@@ -161,6 +170,7 @@ void Build_Widget(Live_Control& control) {
     // There are no drives here: their list stands empty.
     control.widget->setEnabled(row.enabled && row.kind != Control_Kind::Drive);
     if (control.window->table.takes_keys) control.widget->setFocusPolicy(Qt::NoFocus);
+    Name_Widget(control);
     // A press on a control is none on the client area behind it.
     control.widget->setAttribute(Qt::WA_NoMousePropagation);
     if (const auto* button = qobject_cast<QAbstractButton*>(control.widget)) {

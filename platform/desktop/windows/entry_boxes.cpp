@@ -1,6 +1,7 @@
 #include "platform/desktop/windows/entry_boxes.h"
 
 #include <QAbstractProxyModel>
+#include <QAccessibleWidget>
 #include <QCompleter>
 #include <QFontMetrics>
 #include <QLineEdit>
@@ -71,6 +72,28 @@ int List_Width(const QStringList& entries, const QAbstractItemView& view) {
     return width + view.verticalScrollBar()->sizeHint().width() + metrics.averageCharWidth() * 3;
 }
 
+/// The toolkit's own would tell the text of a combo box in place of its name.
+class Spoken_Combo final : public QAccessibleWidget {
+  public:
+    explicit Spoken_Combo(QComboBox* box)
+        : QAccessibleWidget(box, QAccessible::ComboBox), combo(box) {}
+
+    QString text(QAccessible::Text part) const override {
+        return part == QAccessible::Value ? combo->currentText() : QAccessibleWidget::text(part);
+    }
+    QAccessibleInterface* focusChild() const override {
+        return QAccessible::queryAccessibleInterface(combo->lineEdit());
+    }
+
+  private:
+    QComboBox* combo;
+};
+
+QAccessibleInterface* Speak(const QString&, QObject* object) {
+    auto* combo = dynamic_cast<Entry_Combo*>(object);
+    return combo != nullptr ? new Spoken_Combo(combo) : nullptr;
+}
+
 }  // namespace
 
 QValidator::State Code_Page_Validator::validate(QString& text, int&) const {
@@ -97,6 +120,20 @@ void Entry_List::mouseDoubleClickEvent(QMouseEvent* event) {
     Fire(live);  // also beside the entries
 }
 
+/// The first arrow key selects the entry that the focus is on.
+void Entry_List::keyPressEvent(QKeyEvent* event) {
+    const bool is_arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (!is_arrow || live.selected >= 0) return QListView::keyPressEvent(event);
+    selectionModel()->select(currentIndex(), QItemSelectionModel::Select);
+}
+
+/// When the key goes up: a window that waits for keys would take one that is down for its own.
+void Entry_List::keyReleaseEvent(QKeyEvent* event) {
+    const int key = event->key();
+    const bool opens = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+    if (opens && !event->isAutoRepeat()) Fire(live);
+}
+
 Entry_Combo::Entry_Combo(Live_Control& control, QWidget* parent)
     : QComboBox(parent),
       live(control),
@@ -112,6 +149,7 @@ Entry_Combo::Entry_Combo(Live_Control& control, QWidget* parent)
     // The toolkit's own box would pick the entry whose text was typed as soon as the focus goes.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     Build_Completer();
+    QAccessible::installFactory(Speak);
     connect(this, &QComboBox::activated, this, [this](int index) { Take_Pick(live, index); });
     connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
         Take_Typed(live, From_Qt_Lossy(typed));

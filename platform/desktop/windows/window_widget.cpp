@@ -177,6 +177,10 @@ void Window_Widget::closeEvent(QCloseEvent* event) {
     if (takes_input) On_Event([this] { Dismiss(); });
 }
 
+void Window_Widget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) Take_Escape(*this);
+}
+
 void Window_Widget::resizeEvent(QResizeEvent*) {
     const int menu_height = Menu_Height();
     if (menu_bar != nullptr) menu_bar->setGeometry(0, 0, width(), menu_height);
