@@ -102,7 +102,7 @@ void Add_Chart_Benchmarks() {
         ->ArgsProduct({{60, 300}, {1, 9, 15, 22, 29, 36, 45, 55}});
 }
 
-void Show_Chart() {
+void Load_Databases() {
     app_path = platform::Current_Folder();
     if (Load_Settings(Settings_File) != Load_Result::Loaded)
         Give_Up("no databases in the working folder");
@@ -111,6 +111,10 @@ void Show_Chart() {
     if (!Read_Airport_Table() || !Read_Airspace_List()) Give_Up("the databases do not read back");
     first_run = false;
     database_ready = true;
+}
+
+void Show_Chart() {
+    Load_Databases();
     const auto found = std::ranges::find(airport_table, "LFPG", &Airport_Info::icao_id);
     if (found == airport_table.end()) Give_Up("no such airport");
     departure_airport = *found;

@@ -88,6 +88,23 @@ Corners Sorted(int left, int top, int right, int bottom) {
     return {first_x, first_y, last_x, last_y, !is_far};
 }
 
+/// Whether the outline of an ellipse, or its inside too, comes into sight. The system walks along
+/// the whole of it, however long it is.
+bool Is_In_Sight(HDC dc, const Corners& box, bool is_solid) {
+    RECT seen;
+    GetClipBox(dc, &seen);
+    InflateRect(&seen, Widest_Pen, Widest_Pen);
+    const double x = (box.left + box.right) / 2.0, y = (box.top + box.bottom) / 2.0;
+    const double wide = std::max(box.right - x, 1.0), high = std::max(box.bottom - y, 1.0);
+    // The nearest and the farthest of what is seen from the middle, in radii.
+    const double near_x = (std::clamp<double>(x, seen.left, seen.right) - x) / wide;
+    const double near_y = (std::clamp<double>(y, seen.top, seen.bottom) - y) / high;
+    const double far_x = std::max(x - seen.left, seen.right - x) / wide;
+    const double far_y = std::max(y - seen.top, seen.bottom - y) / high;
+    return near_x * near_x + near_y * near_y <= 1 &&
+           (is_solid || far_x * far_x + far_y * far_y >= 1);
+}
+
 /// The end of a line, drawn towards the other one until it is near enough.
 POINT Near_End(POINT end, POINT other) {
     const double x = end.x, y = end.y, dx = other.x - x, dy = other.y - y;
@@ -174,7 +191,9 @@ void LineTo(Device_Context* device, int x, int y) {
 void Ellipse(Device_Context* device, int left, int top, int right, int bottom) {
     const Corners box = Sorted(left, top, right, bottom);
     const HDC dc = Ready(device);
-    if (dc != nullptr && box.are_near) ::Ellipse(dc, box.left, box.top, box.right, box.bottom);
+    if (dc == nullptr || !box.are_near) return;
+    if (!Is_In_Sight(dc, box, device->fill_style != Fill_Style::Hollow)) return;
+    ::Ellipse(dc, box.left, box.top, box.right, box.bottom);
 }
 
 void Rectangle(Device_Context* device, int left, int top, int right, int bottom) {
@@ -187,7 +206,7 @@ void Arc(Device_Context* device, int left, int top, int right, int bottom, int x
          int y2) {
     const Corners box = Sorted(left, top, right, bottom);
     const HDC dc = Ready(device);
-    if (dc == nullptr || !box.are_near) return;
+    if (dc == nullptr || !box.are_near || !Is_In_Sight(dc, box, false)) return;
     const double x = (box.left + box.right) / 2.0, y = (box.top + box.bottom) / 2.0;
     // The system takes equal points for a whole ellipse, and other points of one radial for
     // nothing.
