@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -146,6 +147,15 @@ QWidget* New_Widget(Live_Control& control, QWidget* holder) {
     }
 }
 
+/// A list without the focus shows its selection in grey, or nobody would see where the focus is.
+void Show_Focus(QWidget& list) {
+    QObject::connect(qApp, &QApplication::focusChanged, &list, [&list] {
+        QPalette palette = QApplication::palette();
+        if (!list.hasFocus()) palette.setColor(QPalette::Highlight, Qt::darkGray);
+        list.setPalette(palette);
+    });
+}
+
 /// Names it for screen readers, and the part of it that has the focus in its stead.
 void Name_Widget(const Live_Control& control) {
     const Window& table = control.window->table;
@@ -171,6 +181,10 @@ void Build_Widget(Live_Control& control) {
     control.widget->setEnabled(row.enabled && row.kind != Control_Kind::Drive);
     if (control.window->table.takes_keys) control.widget->setFocusPolicy(Qt::NoFocus);
     Name_Widget(control);
+    if (row.kind == Control_Kind::List || row.kind == Control_Kind::Folder) {
+        QWidget* list = control.widget->focusProxy();
+        Show_Focus(list != nullptr ? *list : *control.widget);
+    }
     // A press on a control is none on the client area behind it.
     control.widget->setAttribute(Qt::WA_NoMousePropagation);
     if (const auto* button = qobject_cast<QAbstractButton*>(control.widget)) {
