@@ -26,20 +26,20 @@ window 'EGLL Chart'
 [ "$id" = "$departure" ] || fail "another window has taken the chart's place"
 keys 1
 window 'KSEA Chart'
-for _ in $(seq 31); do keys KP_Add > /dev/null; done
-sleep 1.2
-[ "$(pixels "$id" $green)" -gt 100 ] || fail "the keys do not zoom"
+zoomed() { keys KP_Add && [ "$(pixels "$id" $green)" -gt 100 ]; }
+wait_for "the keys do not zoom" zoomed
 # On a French keyboard the key of the Q is the one of the A.
 setxkbmap fr
 keys 24
-[ "$(pixels "$id" C00000)" -gt 20 ] || fail "another layout of the keyboard is not seen"
+paused() { [ "$(pixels "$id" C00000)" -gt 20 ]; }
+wait_for "another layout of the keyboard is not seen" paused
 setxkbmap us
 
 menu 100 2
 window 'Keyboard assigments'
 # The head of its frame, not its client area, is in the corner of the screen.
-corner=$(import -window root -crop 2x2+4+4 -depth 8 txt:-)
-! grep -qE '#(000000|D4D0C8)' <<< "$corner" || fail "the dialog is not in the corner: $corner"
+framed() { ! import -window root -crop 2x2+4+4 -depth 8 txt:- | grep -qE '#(000000|D4D0C8)'; }
+wait_for "the dialog is not in the corner" framed
 xdotool mousemove --window "$id" 100 110 click --repeat 2 --delay 80 1
 window 'Change key assigment'
 keys F5 Tab
@@ -48,8 +48,8 @@ keys space   # which must not press it once more
 click 140 100
 window 'Keyboard assigments'
 click 236 208
-key=$(tail -c 12 skerrand_config.cfg | od -An -td4 -N 4)
-[ "$key" -eq 32 ] || fail "the space bar is not in the settings, but $key"
+saved() { [ "$(tail -c 12 skerrand_config.cfg | od -An -td4 -N 4)" -eq 32 ]; }
+wait_for "the space bar is not in the settings" saved
 
 id=$departure
 menu 20 2
