@@ -54,7 +54,9 @@ void CALLBACK Answer(HWND, UINT, UINT_PTR, DWORD) {
 }
 
 void Press_At(HWND window, int x, int y, DWORD down, DWORD up, int times = 1) {
-    SetForegroundWindow(GetAncestor(window, GA_ROOT));  // out from under the others
+    // Out from under the others, without the focus, whose going would close a list.
+    ::SetWindowPos(GetAncestor(window, GA_ROOT), nullptr, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     POINT place{x, y};
     ClientToScreen(window, &place);
     SetCursorPos(place.x, place.y);
