@@ -13,7 +13,6 @@
 
 #include "app/settings.h"
 #include "platform/code_page.h"
-#include "platform/link.h"
 #include "scenery/bgl_reader.h"
 #include "scenery/bgl_walk.h"
 #include "scenery/catalogue.h"
@@ -21,6 +20,7 @@
 #include "scenery/magnetic.h"
 #include "simlink/fsuipc.h"
 #include "tests/scenery/bgl_builder.h"
+#include "tests/simlink/fake_link.h"
 
 using namespace skerrand;
 using namespace skerrand::bgl;
@@ -95,62 +95,53 @@ void Fuzz_Settings(Bytes file) {
     Check(written == file && record.airport_count >= 0 && record.airspace_file_count >= 0);
 }
 
-/// As a start reads them: the settings tell how much the two databases have to hold. Ahead of the
-/// first two files stand their sizes, of 16 bits.
+/// As a start reads them: how much the databases have to hold is told by the settings, the first of
+/// them and of the input, which has 64 bytes for them.
 void Fuzz_Database(Bytes input) {
-    const auto take_file = [&input] {
-        const auto size = static_cast<std::uint16_t>(Take_Count(input));
-        const auto end = input.begin() + std::min<std::ptrdiff_t>(size, std::ssize(input));
-        const Bytes file(input.begin(), end);
-        input.erase(input.begin(), end);
-        return file;
-    };
     Settings_Rec record;
-    if (!Parse_Settings(take_file(), record)) return;
+    const std::size_t airports_at = std::min<std::size_t>(64, input.size());
+    if (!Parse_Settings(Prefix(input, airports_at), record)) return;
+    input.erase(input.begin(), input.begin() + static_cast<std::ptrdiff_t>(airports_at));
     std::vector<Airport_Info> airports;
     std::vector<std::string> files;
-    Check(Parse_Airport_Table(take_file(), record.airport_count, airports)
-              ? std::ssize(airports) == record.airport_count
-              : airports.empty());
-    Check(Parse_Airspace_List(input, record.airspace_file_count, files)
-              ? std::ssize(files) == record.airspace_file_count
-              : files.empty());
+    const bool has_airports = Parse_Airport_Table(input, record.airport_count, airports);
+    Check(std::ssize(airports) == (has_airports ? record.airport_count : 0));
+    const bool has_files = Parse_Airspace_List(input, record.airspace_file_count, files);
+    Check(std::ssize(files) == (has_files ? record.airspace_file_count : 0));
 }
 
-/// The simulator's end of the link: bytes, each with its place of 16 bits ahead, that it writes
-/// into the block before it replies.
-std::array<std::uint8_t, 0x8000> block;
-Bytes answer;
-std::uint32_t reply = 0;
-bool opening = false;
-
-void Write_Answer(std::uint8_t flip = 0) {
-    for (std::size_t i = 2; i < answer.size(); i += 3)
-        block[(answer[i - 2] | std::size_t{answer[i - 1]} << 8) % block.size()] = answer[i] ^ flip;
-}
-
-/// The first byte of an input tells what the simulator does: 1 it is sound while the link is
-/// opened, 2 it replies something else, 4 it goes on writing while its answer is read.
+/// What the simulator writes into the link's block: bytes, each with its place of 16 bits ahead.
+/// The first byte of an input tells its deeds: 1 it lets the link be opened first, 2 it replies
+/// something else, 4 it goes on writing while its answer is read.
 void Fuzz_Link(Bytes input) {
     const int deeds = Take_Count(input);
-    answer.clear();
-    reply = opening = true;
-    if ((deeds & 1) == 0) answer = input;
-    Clear_Link();
+    const auto write = [&input](std::uint8_t flip) {
+        for (std::size_t i = 2; i < input.size(); i += 3)
+            fake.block[(input[i - 2] | input[i - 1] << 8) & 0x7FFF] = input[i] ^ flip;
+    };
+    const auto spoil = [&write](Block) { write(0); };
+    Answer(0x31230002, 0xFADE0006);
+    if ((deeds & 1) == 0) fake.server = spoil;
+    fake.calls.clear();
+    fake.reply = 1;
     std::int32_t result = Link_Ok;
     if (!Open_Link(6, result)) return;
-    answer = input;
-    opening = false;
-    reply = (deeds & 2) == 0;
-    std::array<Bytes, 4> values = {Bytes(4), Bytes(2), Bytes(1), Bytes(1000)};
-    for (Bytes& value : values)
-        Check(Queue_Read(0x564, static_cast<std::uint32_t>(value.size()), value.data(), result));
-    std::atomic<bool> read = (deeds & 4) == 0;
-    std::thread simulator([&read] {
-        for (std::uint8_t flip = 0; !read; ++flip)
-            Write_Answer(flip);
+    fake.server = spoil;
+    fake.reply = (deeds & 2) == 0;
+    const bool goes_on = (deeds & 4) != 0;
+    std::atomic<bool> writes = false, read = !goes_on;
+    std::thread simulator([&] {
+        for (std::uint8_t flip = 0; !read; ++flip, writes = true)
+            write(flip);
     });
-    Check(!Process_Queue(result) || (result == Link_Ok && reply == 1));
+    while (goes_on && !writes)
+        std::this_thread::yield();
+    std::array<Bytes, 3> values = {Bytes(4), Bytes(1), Bytes(1000)};
+    for (int batch = 0; batch < (goes_on ? 50 : 1); ++batch) {
+        for (Bytes& value : values)
+            Check(Queue_Read(0, static_cast<std::uint32_t>(value.size()), value.data(), result));
+        Check(!Process_Queue(result) || (result == Link_Ok && fake.reply == 1));
+    }
     read = true;
     simulator.join();
     Close_Link();
@@ -168,28 +159,6 @@ constexpr std::pair<std::string_view, void (*)(Bytes)> readers[] = {
 };
 void (*reader)(Bytes) = nullptr;
 
-/// What is hard to guess: types of records, marks and words, as a dictionary of the fuzzer's.
-std::string Dictionary() {
-    std::vector<Bytes> words;
-    for (const char* text : {"[Area.", "Title=", "Local=", "Active=", "x:", "Skerrand v2.0"})
-        words.push_back(Text(text));
-    for (const std::int64_t number :
-         {1,       2,       0x7F00,  0x7FFF,  0x8000,  0x10001, 0x10002,     0x10004,
-          0x10006, 0x1000B, 0x11001, 0x12001, 0x12002, 0x12004, 0x12005,     0x12006,
-          0x12007, 0x12008, 0x20001, 0x30001, 0x30002, 0x50001, -0x789ABCDF, -1})
-        words.push_back(Longs({number}));
-    std::string lines;
-    for (const Bytes& word : words) {
-        lines += '"';
-        for (const std::uint8_t byte : word) {
-            constexpr const char* Digits = "0123456789abcdef";
-            lines += {'\\', 'x', Digits[byte >> 4], Digits[byte & 15]};
-        }
-        lines += "\"\n";
-    }
-    return lines;
-}
-
 constexpr std::string_view areas =
     "[Area.001]\r\nTitle=T\r\nTexture_ID=1\r\nLocal=Scenery\r\nRemote=\r\nActive=TRUE\r\n"
     "[Area.2]\nLocal=\\\\net\\share\nRequired=\n[Area.001]\n[Area.2]\r\rlocal=c:/fs\r[[Area.2[] \r"
@@ -205,11 +174,12 @@ void Write_Samples(const std::string& folder) {
     Walk_Bgl();
     const Bytes airports = Airport_Table_Bytes(std::span(airport_table).first(2));
     const Settings_Rec texts{"Skerrand v2.0", 1, 1, "/fs2002", 27000, 12, 49, 50, 107, 109, 65};
-    const Bytes settings_bytes = Settings_Bytes({"", 1, 1, "/fs2002", 2, 2});
-    const auto size = [](const Bytes& file) { return Prefix(Longs({std::ssize(file)}), 2); };
     const Bytes list = Airspace_List_Bytes(std::vector<std::string>{"a", "b"});
+    Bytes start = Settings_Bytes({"", 1, 1, "/fs2002", 2, 2});
+    start.resize(64);
     const Bytes samples[] = {
-        Join({size(settings_bytes), settings_bytes, size(airports), airports, list}),
+        Join({start, airports}),
+        Join({start, list}),
         Join({{1, 0}, {8, 0, 4, 25, 0, 3, 36, 0, 1}}),
         Join({{5, 0}, {9, 0, 0x7F, 10, 0, 1}}),
         Join({{2, 0}, airports}),
@@ -224,49 +194,9 @@ void Write_Samples(const std::string& folder) {
     };
     for (std::size_t i = 0; i < std::size(samples); ++i)
         platform::Write_File(folder + "/built_" + std::to_string(i), samples[i]);
-    platform::Write_File(folder + ".dict", Text(Dictionary()));
 }
 
 }  // namespace
-
-namespace platform {
-
-Window_Handle FindWindowExA(const char*) {
-    return 1;
-}
-Message_Id RegisterWindowMessageA(const char*) {
-    return 1;
-}
-Atom GlobalAddAtomA(const char*) {
-    return 1;
-}
-void GlobalDeleteAtom(Atom) {}
-Mapping_Handle CreateFileMappingA(std::uint32_t, const char*) {
-    return 1;
-}
-void CloseHandle(Mapping_Handle) {}
-std::uint8_t* MapViewOfFile(Mapping_Handle) {
-    return block.data();
-}
-void UnmapViewOfFile(std::uint8_t*) {}
-// Its versions first, where the batch of the opening has them.
-bool SendMessageTimeoutA(Window_Handle, Message_Id, std::int32_t, std::uint32_t,
-                         std::uint32_t& replied) {
-    if (opening) std::ranges::copy(Longs({0x31230002}), &block[16]);
-    if (opening) std::ranges::copy(Longs({0xFADE0006}), &block[36]);
-    Write_Answer();
-    replied = reply;
-    return true;
-}
-std::uint32_t GetLastError() {
-    return 0;
-}
-std::uint32_t GetCurrentProcessId() {
-    return 1;
-}
-void Sleep(std::uint32_t) {}
-
-}  // namespace platform
 
 extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments) {
     const std::filesystem::path folder = *count > 1 ? (*arguments)[1] : "";
