@@ -111,28 +111,6 @@ TEST_F(Chart_With_Printer, APreferenceSwitchesMoreOrLessThanItsOwn) {
     }
 }
 
-TEST_F(Chart_With_Printer, ATimerRunsInAStateWhereItShouldNot) {
-    const auto timers = [](const std::string& command) {
-        Ask(command);
-        return Ask("get Form4.Chart_Refresher.enabled") + Ask("get Form4.KeyPress_Checker.enabled");
-    };
-    const std::string live = "yes\nyes\n", paused = "no\nyes\n", dialog = "no\nno\n";
-    EXPECT_EQ(timers("advance 1000"), live);
-    EXPECT_EQ(timers("minimise Form4"), paused);
-    EXPECT_EQ(timers("click Form4.Command2"), paused);
-    EXPECT_EQ(timers("restore Form4"), live);
-    for (const auto& [menu, form] :
-         {std::pair("pref1", "Form5"), {"skerrand_abot2", "Form6"}, {"kb_assign1", "Form7"}}) {
-        EXPECT_EQ(timers(std::string("click Form4.") + menu), dialog) << menu;
-        EXPECT_EQ(timers(std::string("close ") + form), live) << form;
-    }
-    for (const char* resumed :
-         {"click Form4.p_r_refresh", "resize Form4 900 700", "click Form4.print_cht1"}) {
-        EXPECT_EQ(timers("click Form4.p_r_refresh"), paused);
-        EXPECT_EQ(timers(resumed), live) << resumed;
-    }
-}
-
 TEST(Poll, RawValuesAreConvertedWrongly) {
     platform::headless::Begin([] {
         platform::simulator::Start("UIPCMAIN");

@@ -26,12 +26,16 @@ bool Running();
 /// Lets the program run for at least that long.
 void Advance(int milliseconds);
 
+/// A command of docs/headless.md for simulator and printer, where those are made up; elsewhere
+/// nothing happens.
+void Set_Surroundings(const std::string& command);
+
 /// The time that timers go by, in milliseconds; only differences mean something.
 long long Clock();
 
 /// The user's doings. What is disabled takes none of them. They have had their effect, and every
 /// handler that they call has returned, when the operation returns.
-void Click(platform::Control_Ref control);
+void Click(platform::Control_Ref control);  ///< also of a menu entry
 enum Spot { On_Selection, Below_Entries };
 void Double_Click(platform::Control_Ref list, Spot spot = On_Selection);
 /// Goes into a subfolder, by its place among them.

@@ -75,11 +75,14 @@ void Advance(int milliseconds) {
     loop.exec();
 }
 
+void Set_Surroundings(const std::string&) {}
+
 long long Clock() {
     return since_start.elapsed();
 }
 
 void Click(Control_Ref control) {
+    if (QAction* entry = desktop::Find_Live(control)->action) return entry->trigger();
     QWidget* widget = desktop::Find_Live(control)->widget;
     QWidget* part = widget->childAt(8, 8);  // the text of a combo box
     QTest::mouseClick(part != nullptr ? part : widget, Qt::LeftButton, {}, QPoint(8, 8));

@@ -37,6 +37,10 @@ void Advance(int milliseconds) {
     headless::Advance(milliseconds);
 }
 
+void Set_Surroundings(const std::string& command) {
+    headless::Execute(command);
+}
+
 long long Clock() {
     return headless::Clock();
 }

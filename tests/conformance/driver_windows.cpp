@@ -54,6 +54,9 @@ void CALLBACK Answer(HWND, UINT, UINT_PTR, DWORD) {
 }
 
 void Press_At(HWND window, int x, int y, DWORD down, DWORD up, int times = 1) {
+    // Out from under the others, without the focus, whose going would close a list.
+    ::SetWindowPos(GetAncestor(window, GA_ROOT), nullptr, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     POINT place{x, y};
     ClientToScreen(window, &place);
     SetCursorPos(place.x, place.y);
@@ -105,6 +108,8 @@ void Advance(int milliseconds) {
         windows::Serve(static_cast<unsigned long>(end - now));
 }
 
+void Set_Surroundings(const std::string&) {}
+
 long long Clock() {
     LARGE_INTEGER count, frequency;
     QueryPerformanceCounter(&count);
@@ -113,8 +118,14 @@ long long Clock() {
 }
 
 void Click(Control_Ref control) {
+    const HWND window = windows::Find_Window(*control.window)->handle;
+    if (control.window->controls[control.index].kind == Control_Kind::Menu) {
+        const auto id = static_cast<WPARAM>(windows::First_Id) + control.index;
+        if (IsWindowEnabled(window)) PostMessageW(window, WM_COMMAND, id, 0);
+        return Advance(30);
+    }
     const RECT& place = windows::Find_Live(control)->place;
-    Click_At(windows::Find_Window(*control.window)->handle, place.left + 8, place.top + 8);
+    Click_At(window, place.left + 8, place.top + 8);
 }
 
 void Double_Click(Control_Ref list, Spot spot) {

@@ -3,10 +3,13 @@
 // FOLDER bears the name of the reader, and takes the samples to begin with and what is found.
 
 #include <algorithm>
+#include <array>
+#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <span>
 #include <string>
+#include <thread>
 
 #include "app/settings.h"
 #include "platform/code_page.h"
@@ -15,7 +18,9 @@
 #include "scenery/catalogue.h"
 #include "scenery/database.h"
 #include "scenery/magnetic.h"
+#include "simlink/fsuipc.h"
 #include "tests/scenery/bgl_builder.h"
+#include "tests/simlink/fake_link.h"
 
 using namespace skerrand;
 using namespace skerrand::bgl;
@@ -90,10 +95,64 @@ void Fuzz_Settings(Bytes file) {
     Check(written == file && record.airport_count >= 0 && record.airspace_file_count >= 0);
 }
 
+/// As a start reads them: how much the databases have to hold is told by the settings, the first of
+/// them and of the input, which has 64 bytes for them.
+void Fuzz_Database(Bytes input) {
+    Settings_Rec record;
+    const std::size_t airports_at = std::min<std::size_t>(64, input.size());
+    if (!Parse_Settings(Prefix(input, airports_at), record)) return;
+    input.erase(input.begin(), input.begin() + static_cast<std::ptrdiff_t>(airports_at));
+    std::vector<Airport_Info> airports;
+    std::vector<std::string> files;
+    const bool has_airports = Parse_Airport_Table(input, record.airport_count, airports);
+    Check(std::ssize(airports) == (has_airports ? record.airport_count : 0));
+    const bool has_files = Parse_Airspace_List(input, record.airspace_file_count, files);
+    Check(std::ssize(files) == (has_files ? record.airspace_file_count : 0));
+}
+
+/// What the simulator writes into the link's block: bytes, each with its place of 16 bits ahead.
+/// The first byte of an input tells its deeds: 1 it lets the link be opened first, 2 it replies
+/// something else, 4 it goes on writing while its answer is read.
+void Fuzz_Link(Bytes input) {
+    const int deeds = Take_Count(input);
+    const auto write = [&input](std::uint8_t flip) {
+        for (std::size_t i = 2; i < input.size(); i += 3)
+            fake.block[(input[i - 2] | input[i - 1] << 8) & 0x7FFF] = input[i] ^ flip;
+    };
+    const auto spoil = [&write](Block) { write(0); };
+    Answer(0x31230002, 0xFADE0006);
+    if ((deeds & 1) == 0) fake.server = spoil;
+    fake.calls.clear();
+    fake.reply = 1;
+    std::int32_t result = Link_Ok;
+    if (!Open_Link(6, result)) return;
+    fake.server = spoil;
+    fake.reply = (deeds & 2) == 0;
+    const bool goes_on = (deeds & 4) != 0;
+    std::atomic<bool> writes = false, read = !goes_on;
+    std::thread simulator([&] {
+        for (std::uint8_t flip = 0; !read; ++flip, writes = true)
+            write(flip);
+    });
+    while (goes_on && !writes)
+        std::this_thread::yield();
+    std::array<Bytes, 3> values = {Bytes(4), Bytes(1), Bytes(1000)};
+    for (int batch = 0; batch < (goes_on ? 50 : 1); ++batch) {
+        for (Bytes& value : values)
+            Check(Queue_Read(0, static_cast<std::uint32_t>(value.size()), value.data(), result));
+        Check(!Process_Queue(result) || (result == Link_Ok && fake.reply == 1));
+    }
+    read = true;
+    simulator.join();
+    Close_Link();
+}
+
 constexpr std::pair<std::string_view, void (*)(Bytes)> readers[] = {
     {"airports", Fuzz_Table<Airport_Info, Parse_Airport_Table, Airport_Table_Bytes>},
     {"airspaces", Fuzz_Table<std::string, Parse_Airspace_List, Airspace_List_Bytes>},
     {"bgl", Fuzz_Bgl},
+    {"database", Fuzz_Database},
+    {"link", Fuzz_Link},
     {"magdec", Fuzz_Magdec},
     {"scenery_cfg", Fuzz_Scenery_Cfg},
     {"settings", Fuzz_Settings},
@@ -115,9 +174,16 @@ void Write_Samples(const std::string& folder) {
     Walk_Bgl();
     const Bytes airports = Airport_Table_Bytes(std::span(airport_table).first(2));
     const Settings_Rec texts{"Skerrand v2.0", 1, 1, "/fs2002", 27000, 12, 49, 50, 107, 109, 65};
+    const Bytes list = Airspace_List_Bytes(std::vector<std::string>{"a", "b"});
+    Bytes start = Settings_Bytes({"", 1, 1, "/fs2002", 2, 2});
+    start.resize(64);
     const Bytes samples[] = {
+        Join({start, airports}),
+        Join({start, list}),
+        Join({{1, 0}, {8, 0, 4, 25, 0, 3, 36, 0, 1}}),
+        Join({{5, 0}, {9, 0, 0x7F, 10, 0, 1}}),
         Join({{2, 0}, airports}),
-        Join({{2, 0}, Airspace_List_Bytes(std::vector<std::string>{"a", "b"})}),
+        Join({{2, 0}, list}),
         Sample(),
         Image({}, Join({Group(), Group(5), Group()})),
         Image({{"A", Record(0x10003, {}, -8)}}),

@@ -1,0 +1,250 @@
+// Weeks of use in a minute: a user's doings at random, and whether the chart window is in a row of
+// its table after each. Runs in a folder with a world in "fs2002"; --gtest_random_seed=N varies it.
+
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <map>
+#include <random>
+#include <sstream>
+
+#include "app/form1.h"
+#include "app/form2.h"
+#include "app/form5.h"
+#include "app/form6.h"
+#include "app/settings.h"
+#include "chart/chart_view.h"
+#include "chart/current_chart.h"
+#include "chart/form4.h"
+#include "keys/form7.h"
+#include "keys/form8.h"
+#include "platform/controls.h"
+#include "platform/timers.h"
+#include "selection/form3.h"
+#include "tests/conformance/driver.h"
+
+namespace skerrand {
+namespace {
+
+using platform::Control_Ref, platform::Is_Loaded, platform::Window;
+using enum platform::Control_Kind;
+using Windows = std::vector<const Window*>;
+
+const Windows mains = {&form1::window, &form2::window, &form3::window, &form4::window};
+const Windows dialogs = {&form5::window, &form6::window, &form7::window};
+std::mt19937 chance;
+bool printer_fails;
+
+int Below(int end) {
+    return static_cast<int>(chance() % static_cast<unsigned>(end));
+}
+
+Control_Ref Named(const Window& window, std::string_view name) {
+    const auto row = std::ranges::find(window.controls, name, &platform::Control::name);
+    return {&window, static_cast<std::size_t>(row - window.controls.begin())};
+}
+
+Windows Loaded(Windows windows) {
+    std::erase_if(windows, [](const Window* window) { return !Is_Loaded(*window); });
+    return windows;
+}
+
+struct State {
+    bool chart = Is_Loaded(form4::window);
+    bool dialog = !Loaded(dialogs).empty();
+    bool minimised = platform::State_Of(form4::window) == platform::Window_State::Minimised;
+    bool refresher = platform::Is_Running(form4::Chart_Refresher);
+    bool keys = platform::Is_Running(Named(form4::window, "KeyPress_Checker"));
+};
+
+/// The rows of the table. What starts the timers starts those of a minimised window too; after a
+/// print that failed both stand still, and the keys do until something draws the chart anew.
+const char* Row(const State& state) {
+    if (state.dialog) return state.refresher || state.keys ? nullptr : "dialog open";
+    if (!state.keys) return state.refresher ? "refreshed after a failed print" : "print failed";
+    if (state.minimised) return state.refresher ? "minimised, live" : "minimised";
+    return state.refresher ? "live" : "paused";
+}
+
+/// What a doing means to the timers; what is refused must change nothing at all.
+enum Effect { None, Redraws, Toggles, Opens, Prints, Sizes, Refused };
+
+const std::map<std::string_view, Effect> effects = {
+    {"Command2", Redraws},       {"Command3", Redraws},
+    {"Command4", Redraws},       {"dp_airpt_chrt", Redraws},
+    {"dst_airpt_chrt", Redraws}, {"p_r_refresh", Toggles},
+    {"kb_assign1", Opens},       {"pref1", Opens},
+    {"skerrand_abot2", Opens},   {"print_cht1", Prints}};
+
+Effect Gated(Effect effect, const State& state) {
+    const bool refused = effect == Redraws ? !state.refresher : effect == Toggles && state.dialog;
+    return refused ? Refused : effect;
+}
+
+/// The timers after it.
+State After(State state, Effect effect, const State& seen) {
+    if (effect == Redraws || (state.dialog && !seen.dialog)) state.refresher = state.keys = true;
+    if (effect == Opens) state.refresher = state.keys = false;
+    if (state.dialog) return state;
+    if (effect == Toggles) state.refresher = !state.refresher;
+    if (effect == Prints) state.refresher = state.keys = !printer_fails;
+    if (effect == Sizes) state.refresher = !seen.minimised;
+    // A tick that follows the aircraft starts both.
+    if (state.refresher && chart_view.link_open && follow_aircraft) state.keys |= seen.keys;
+    return state;
+}
+
+/// All that a user's doings change, but for what timers change too.
+std::string Digest() {
+    std::ostringstream all;
+    all << chart_view.view_left << ' ' << chart_view.view_top << ' ' << chart_view.zoom_rate
+        << follow_aircraft << current_airport.icao_id;
+    for (const Windows& windows : {mains, dialogs, {&form8::window}}) {
+        for (const Window* window : Loaded(windows)) {
+            all << window->name;
+            for (std::size_t i = 0; i < window->controls.size(); ++i)
+                all << platform::Selected_Index({window, i}) << platform::Is_Checked({window, i});
+        }
+    }
+    return all.str();
+}
+
+Effect Use(const Window& window, const State& state) {
+    const Control_Ref control{&window, chance() % window.controls.size()};
+    const auto& [name, kind] =
+        std::tie(window.controls[control.index].name, window.controls[control.index].kind);
+    const bool refused = &window == &form7::window && Is_Loaded(form8::window);
+    const int entries = std::min(platform::Entry_Count(control), 5);
+    if (kind == List && platform::Selected_Index(control) >= 0 && Below(2) == 0) {
+        driver::Double_Click(control);
+    } else if ((kind == List || kind == Combo) && entries > 0) {
+        driver::Pick(control, Below(entries));
+    } else if (kind == Button || kind == Check || kind == Option || kind == Menu) {
+        driver::Click(control);
+    }
+    const auto effect = effects.find(name);
+    if (&window != &form4::window || effect == effects.end()) return refused ? Refused : None;
+    return Gated(effect->second, state);
+}
+
+Effect Press_A_Key(const State& state) {
+    const int code = settings.key_departure + Below(8);
+    driver::Key(code, true);
+    driver::Advance(driver::Has_Screen() ? 60 : 1);
+    driver::Key(code, false);
+    if (!state.keys || state.dialog) return Refused;
+    for (const auto key : {&Settings_Rec::key_departure, &Settings_Rec::key_destination,
+                           &Settings_Rec::key_zoom_in, &Settings_Rec::key_zoom_out})
+        if (settings.*key == code) return Gated(Redraws, state);
+    return settings.key_pause == code ? Toggles : None;
+}
+
+Effect Use_Frame(const Window& window, const State& state) {
+    const double width = platform::Outer_Size(form4::window).width;
+    const bool closes = Below(&window == &form3::window || &window == &form4::window ? 50 : 5) == 0;
+    const int size = 300 + Below(200);
+    closes          ? driver::Do(driver::Close, window)
+    : Below(2) == 0 ? driver::Resize(window, size, size)
+                    : driver::Do(static_cast<driver::Deed>(Below(3)), window);
+    const bool sized = platform::Outer_Size(form4::window).width != width;
+    return sized || State().minimised != state.minimised ? Sizes : None;
+}
+
+void Disturb() {
+    const char* const commands[] = {"printer failing", "printer ready", "simulator on",
+                                    "simulator off", "simulator reply 0 after 2"};
+    const int which = Below(5);
+    driver::Set_Surroundings(commands[which]);
+    if (which < 2) printer_fails = which == 0 && !driver::Has_Screen();
+}
+
+/// Goes the way to the chart.
+void Go_On() {
+    if (Is_Loaded(form2::window)) {
+        const auto world = std::filesystem::current_path() / "fs2002";
+        platform::Set_Folder_Path(Named(form2::window, "Dir1"), world.string());
+        driver::Click(Named(form2::window, "Command1"));
+        driver::Advance(1500);
+        // From F2 on, keys that mean nothing to the controls of a window.
+        const Settings_Rec& old = settings;
+        settings = {
+            old.signature, 1,   1,   old.fs_path, old.airport_count, old.airspace_file_count, 113,
+            114,           115, 116, 117};
+    }
+    for (const Control_Ref combo : {form3::Combo1, form3::Combo2})
+        if (platform::Entry_Count(combo) > 5) driver::Pick(combo, Below(5));
+    if (Is_Loaded(form3::window)) driver::Click(Named(form3::window, "Command3"));
+}
+
+Effect Do_Something(const State& state) {
+    Windows windows = Loaded(mains);
+    if (!state.chart && Below(3) > 0) return Go_On(), None;
+    for (const Windows& more : {dialogs, {&form8::window}})
+        std::ranges::copy(Loaded(more), std::back_inserter(windows));
+    const Window& window = *windows[chance() % windows.size()];
+    const bool is_away = driver::Has_Screen() && state.minimised && &window == &form4::window;
+    switch (Below(10)) {
+        case 0:
+            return driver::Advance(1 + Below(1000)), None;
+        case 1:
+            return Disturb(), None;
+        case 2:
+            return state.chart ? Press_A_Key(state) : None;
+        case 3:
+            return Use_Frame(window, state);
+        case 4:
+            if (is_away || &window != &form4::window) return None;
+            driver::Press(window, platform::Mouse_Button::Left, 200 + Below(60), 100);
+            return Gated(Redraws, state);
+        default:
+            return is_away ? None : Use(window, state);
+    }
+}
+
+void Begin() {
+    if (Below(4) == 0) std::filesystem::remove(Airports_File);
+    driver::Start([] { platform::Show(form1::window); });
+    printer_fails = false;
+    driver::Advance(3200);
+}
+
+TEST(Weeks, ChartLeavesItsTableOrTakesWhatIsDisabled) {
+    const auto seed = static_cast<unsigned>(std::max(GTEST_FLAG_GET(random_seed), 1));
+    std::printf("--gtest_random_seed=%u\n", seed);
+    chance.seed(seed);
+    Begin();
+    std::map<std::string, int> rows;
+    for (int i = 0; i < WEEKS_ACTIONS; ++i) {
+        if (!driver::Running()) Begin();
+        const State before;
+        const std::string digest = Digest();
+        const Effect effect = Do_Something(before);
+        if (!driver::Running()) continue;
+        const State seen;
+        SCOPED_TRACE(testing::Message() << "action " << i << " of effect " << effect);
+        ASSERT_EQ(Loaded(mains).size(), 1U);
+        ASSERT_TRUE(seen.chart || !seen.dialog) << "a dialog stands alone";
+        ASSERT_TRUE(Is_Loaded(form7::window) || !Is_Loaded(form8::window));
+        if (effect == Refused && !before.refresher) {
+            ASSERT_EQ(Digest(), digest);
+        }
+        if (!before.chart || !seen.chart) continue;
+        const State after = After(before, effect, seen);
+        ASSERT_EQ(std::tie(after.refresher, after.keys), std::tie(seen.refresher, seen.keys));
+        const char* row = Row(seen);
+        ASSERT_NE(row, nullptr);
+        ++rows[row];
+    }
+    for (const auto& [row, times] : rows)
+        std::printf("%7d %s\n", times, row.c_str());
+    EXPECT_EQ(rows.size(), driver::Has_Screen() ? 5U : 7U);
+}
+
+}  // namespace
+}  // namespace skerrand
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    driver::Prepare(argc, argv);
+    return RUN_ALL_TESTS();
+}
