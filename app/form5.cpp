@@ -70,6 +70,7 @@ constexpr Control controls[] = {
 
 }  // namespace
 
+// However it is closed, the chart goes on.
 constexpr platform::Window window = {.name = "Form5",
                                      .caption = "Options",
                                      .client_width = 4860,
@@ -77,7 +78,7 @@ constexpr platform::Window window = {.name = "Form5",
                                      .controls = controls,
                                      .frame = platform::Frame_Style::Dialog,
                                      .load = Form_Load,
-                                     .unload = form4::End_Dialog};
+                                     .unload = form4::Start_Timers};
 
 namespace {
 

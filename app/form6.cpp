@@ -64,6 +64,7 @@ constexpr Control controls[] = {
 
 }  // namespace
 
+// However it is closed, the chart goes on.
 constexpr platform::Window window = {.name = "Form6",
                                      .caption = "About Skerrand v2.0",
                                      .client_width = 5115,
@@ -71,7 +72,7 @@ constexpr platform::Window window = {.name = "Form6",
                                      .controls = controls,
                                      .frame = platform::Frame_Style::Dialog,
                                      .load = Form_Load,
-                                     .unload = form4::End_Dialog};
+                                     .unload = form4::Start_Timers};
 
 namespace {
 

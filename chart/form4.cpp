@@ -34,13 +34,10 @@ void Command3_Click();
 void load_airpts_lst_Click();
 void show_all_cfreq_Click();
 
-int dialogs = 0;  // that stand: until the last one has gone, nothing starts the timers
-
-/// The menu entry of a dialog.
+/// The menu entry of a dialog: the chart stands still until that one starts its timers.
 template <const platform::Window& Dialog>
 void Open_Dialog() {
     Stop_Timers();
-    if (!platform::Is_Loaded(Dialog)) ++dialogs;
     platform::Show(Dialog);
 }
 
@@ -233,7 +230,6 @@ void Show_First_View() {
 
 void Form_Load() {
     chart_view = {};
-    dialogs = 0;
     Take_Airport(departure_airport, departure_airspaces);
     platform::SetWindowPos(window, platform::Insert_After::HWND_TOPMOST, 0, 0, 0, 0,
                            platform::SWP_NOSIZE | platform::SWP_NOMOVE);
@@ -272,7 +268,7 @@ void Form_Resize() {
     platform::Stop_Timer(Chart_Refresher);
     if (platform::State_Of(window) == platform::Window_State::Minimised) return;
     Take_Screen_Size();
-    if (!Has_Dialog()) platform::Start_Timer(Chart_Refresher);
+    platform::Start_Timer(Chart_Refresher);
 }
 
 void Command3_Click() {
@@ -305,18 +301,8 @@ void Stop_Timers() {
 }
 
 void Start_Timers() {
-    if (Has_Dialog()) return;
     platform::Start_Timer(Chart_Refresher);
     platform::Start_Timer(KeyPress_Checker);
-}
-
-bool Has_Dialog() {
-    return dialogs > 0;
-}
-
-void End_Dialog() {
-    --dialogs;
-    Start_Timers();
 }
 
 void Redraw() {

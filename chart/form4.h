@@ -26,15 +26,9 @@ void Center_Airport(double airpt_loc_x, double airpt_loc_y);
 /// Erases the window and paints chart and aircraft.
 void Redraw();
 
-/// The refresh first, then the key poll. Nothing starts while a dialog of the chart stands, so that
-/// the chart stays as it is and no key acts on it.
+/// The refresh first, then the key poll.
 void Stop_Timers();
 void Start_Timers();
-
-bool Has_Dialog();
-
-/// To be called in a dialog's unload, however it is closed: after the last one the chart goes on.
-void End_Dialog();
 
 /// Puts a dialog of the chart above all windows, the chart among them, in the screen's top left
 /// corner. To be called in its load.

@@ -55,6 +55,7 @@ constexpr Control controls[] = {
 
 }  // namespace
 
+// However it is closed, the chart goes on.
 constexpr platform::Window window = {.name = "Form7",
                                      .caption = "Keyboard assigments",
                                      .client_width = 5940,
@@ -62,7 +63,7 @@ constexpr platform::Window window = {.name = "Form7",
                                      .controls = controls,
                                      .frame = platform::Frame_Style::Dialog,
                                      .load = Form_Load,
-                                     .unload = form4::End_Dialog};
+                                     .unload = form4::Start_Timers};
 
 namespace {
 

@@ -105,7 +105,6 @@ void Chart_Refresher_Timer() {
 }
 
 void p_r_refresh_Click() {
-    if (form4::Has_Dialog()) return;
     const bool pause = platform::Is_Running(form4::Chart_Refresher);
     if (pause) {
         platform::Stop_Timer(form4::Chart_Refresher);
