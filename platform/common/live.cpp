@@ -10,7 +10,8 @@ namespace platform::common {
 
 namespace {
 
-std::vector<Live_Window*> loaded;
+/// Never destroyed: the windows that are loaded when the process ends are left to it.
+std::vector<Live_Window*>& loaded = *new std::vector<Live_Window*>;
 
 bool Is_Loaded(const Live_Window* window) {
     return std::find(loaded.begin(), loaded.end(), window) != loaded.end();
