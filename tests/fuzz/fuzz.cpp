@@ -87,24 +87,24 @@ void Fuzz_Settings(Bytes file) {
 }
 
 /// A table that reads is written as one that reads the same.
-template <auto Parse, auto Write, typename Element>
-void Check_Table(const Bytes& file, std::int16_t count, std::vector<Element> table) {
-    std::vector<Element> again;
+template <typename Element, auto Parse, auto Write>
+void Check_Table(const Bytes& file, std::int32_t count) {
+    std::vector<Element> table, again;
     if (!Parse(file, count, table)) return Check(table.empty());
     Check(std::ssize(table) == count && Parse(Write(table), count, again) && again == table);
 }
 
 /// As a start reads them: how much the databases have to hold is told by the settings, the first of
 /// them and of the input, which has 64 bytes for them.
-void Fuzz_Database(const Bytes& input) {
+void Fuzz_Database(Bytes input) {
     Settings_Rec record;
-    const std::size_t tables_at = std::min<std::size_t>(64, input.size());
-    if (!Parse_Settings(Prefix(input, tables_at), record)) return;
-    const Bytes file(input.begin() + static_cast<std::ptrdiff_t>(tables_at), input.end());
-    Check_Table<Parse_Airport_Table, Airport_Table_Bytes>(file, record.airport_count,
-                                                          std::vector<Airport_Info>());
-    Check_Table<Parse_Airspace_List, Airspace_List_Bytes>(file, record.airspace_file_count,
-                                                          std::vector<std::string>());
+    const auto tables = input.begin() + std::min<std::ptrdiff_t>(64, std::ssize(input));
+    if (!Parse_Settings(Bytes(input.begin(), tables), record)) return;
+    input.erase(input.begin(), tables);
+    Check_Table<Airport_Info, Parse_Airport_Table, Airport_Table_Bytes>(input,
+                                                                        record.airport_count);
+    Check_Table<std::string, Parse_Airspace_List, Airspace_List_Bytes>(input,
+                                                                       record.airspace_file_count);
 }
 
 /// What the simulator writes into the link's block: bytes, each with its place of 16 bits ahead.
