@@ -8,6 +8,7 @@
 #include "platform/drawing.h"
 #include "platform/files.h"
 #include "platform/keys.h"
+#include "platform/link.h"
 #include "platform/printer.h"
 #include "platform/timers.h"
 #include "tests/conformance/driver.h"
@@ -458,6 +459,17 @@ TEST_F(Conformance, A_Page_Has_Its_Sheet_And_Its_Lines_And_Ends_Once) {
     const auto names = File_Names("", ".pdf");
     for (const std::string& name : names.value())
         Delete_File(name);
+}
+
+TEST_F(Conformance, A_Block_Of_A_Name_That_Stands_Is_Told_Until_It_Is_Closed) {
+    for (int round = 0; round < 2; ++round) {
+        const Mapping_Handle first = CreateFileMappingA(8, "block");
+        EXPECT_TRUE(first != 0 && GetLastError() == 0);
+        const Mapping_Handle second = CreateFileMappingA(8, "block");
+        EXPECT_EQ(GetLastError(), Error_Already_Exists);
+        CloseHandle(second);
+        CloseHandle(first);
+    }
 }
 
 }  // namespace conformance

@@ -6,7 +6,6 @@
 # BIN is the folder of the programs, FOLDER is made anew. The status is 77 where strace cannot trace.
 set -u
 export bin=$1 folder=$2 world=$2/world
-export QT_QPA_PLATFORM=offscreen CUPS_SERVER=/no/such/socket # no printer: a page goes to a file
 
 # What a user does: a start, with setup and scan where they are needed, and a look at the lists; and
 # a new key besides.
@@ -33,31 +32,24 @@ click Form7.Command1"
 # files alone, and stands aside (-D) so that this process becomes the one that their temporary names
 # tell. The answers come without the ends of the answers.
 run() (
-    program=$bin/skerrand-headless input=$start job=$1 own=(-P "$PWD" -P .)
-    [ "$job" = print ] && program=$bin/print_page
-    [ "$job" = keys ] && input=$keys
+    input=$start own=(-P "$PWD" -P .)
+    [ "$1" = keys ] && input=$keys
     shift
     {
-        for file in skerrand_config.cfg all_fs_airports.dat world_airspaces.lst 'KSEA Chart.pdf'; do
+        for file in skerrand_config.cfg all_fs_airports.dat world_airspaces.lst; do
             own+=(-P "$file" -P "$PWD/$file" -P "$PWD/$file.$BASHPID.tmp")
         done
         [ $# -eq 0 ] || set -- strace -D -f -qqq -o "$PWD.trace" "${own[@]}" "$@"
-        exec "$@" "$program" <<< "$input" 2> "$PWD.err"
+        exec "$@" "$bin/skerrand-headless" <<< "$input" 2> "$PWD.err"
     } | grep -v -e '^ok$' -e '^error '
     exit "${PIPESTATUS[0]}"
 )
 
 # Whether the files are those of a finished job and no others.
 files_are_whole() {
-    if [ "$1" = print ]; then
-        for file in *; do
-            [[ $file == 'KSEA Chart'*.pdf && $(tail -n 1 "$file") == %%EOF ]] || return 1
-        done
-    else
-        [ "$(ls -A | tr '\n' ' ')" = 'all_fs_airports.dat skerrand_config.cfg world_airspaces.lst ' ] &&
-            cmp -s all_fs_airports.dat ../whole/all_fs_airports.dat &&
-            cmp -s world_airspaces.lst ../whole/world_airspaces.lst && settings_are_whole "$1"
-    fi
+    [ "$(ls -A | tr '\n' ' ')" = 'all_fs_airports.dat skerrand_config.cfg world_airspaces.lst ' ] &&
+        cmp -s all_fs_airports.dat ../whole/all_fs_airports.dat &&
+        cmp -s world_airspaces.lst ../whole/world_airspaces.lst && settings_are_whole "$1"
 }
 
 # Keys may be lost with the databases alone: without those, setup begins anew.
@@ -79,7 +71,7 @@ try() {
     [ "$1 $2 $3 ${4%=*}" = 'keys fsync 1 error' ] &&
         ! cmp -s skerrand_config.cfg ../before_keys/skerrand_config.cfg && fault='not synced'
     next=$(run "${1/keys/start}")
-    [ "$1" = print ] || [ "$next" = "$(cat ../lists)" ] || fault='the next start has other lists'
+    [ "$next" = "$(cat ../lists)" ] || fault='the next start has other lists'
     files_are_whole "$1" || fault="${fault:-the next start leaves $(ls -A | tr '\n' ' ')}"
     [ -n "$fault" ] || rm -rf "$PWD" "$PWD".*
     echo "${fault:-good}: $place"
@@ -87,7 +79,7 @@ try() {
 export -f run try files_are_whole settings_are_whole
 
 rm -rf "$folder"
-mkdir -p "$folder"/{whole,before_setup,before_print}
+mkdir -p "$folder"/{whole,before_setup}
 "$bin/make_world" "$world" || exit 1
 cd "$folder/whole" || exit 1
 run setup > ../lists
@@ -100,29 +92,19 @@ printf B | dd of=skerrand_config.cfg bs=1 seek=$(($(stat -c %s skerrand_config.c
 cp -r . ../before_rebuild
 truncate -s -1 ../before_rebuild/world_airspaces.lst # the databases are damaged
 
-for job in setup rebuild keys print; do
-    [ "$job" != print ] || [ -x "$bin/print_page" ] || continue
+for job in setup rebuild keys; do
     cp -r "../before_$job" "../after_$job" && cd "../after_$job" || exit 1
-    run "$job" -e trace=openat,write,fsync,rename,unlink > /dev/null
+    run "$job" -e trace=openat,flock,write,fsync,rename,unlink > /dev/null
     calls=$(awk '{ sub(/\(.*/, "", $2); print $2, ++number[$2] }' "$PWD.trace")
     for fault in signal=KILL error=EIO error=ENOSPC; do
         sed "s/.*/$job & $fault/" <<< "$calls" >> ../points
     done
+    # Locked, so that a start meanwhile does not take the temporary file for one that was left.
     order=$(tr -d ' 0-9' <<< "$calls" | tr '\n' ' ')
-    [[ ${order//write fsync rename openat fsync/} =~ write|fsync|rename ]] &&
-        echo "not brought to the disk: $job: $order"
+    [[ ${order//flock write fsync rename openat fsync/} =~ write|fsync|rename ]] &&
+        echo "not locked or not brought to the disk: $job: $order"
 done > ../verdicts
 xargs -P 2 -L 1 bash -c 'try "$@"' try < ../points >> ../verdicts
-
-# A start while another process writes must not take its temporary file for one that was left.
-cp -r ../before_keys ../two && cd ../two || exit 1
-run keys -e trace=fsync -e inject=fsync:delay_enter=1s:when=1 > /dev/null &
-while kill -0 $! && ! ls ./*.tmp; do sleep 0.02; done > /dev/null 2>&1
-run start > ../two.lists
-wait
-cmp -s ../two.lists ../lists && files_are_whole keys &&
-    cmp -s skerrand_config.cfg ../after_keys/skerrand_config.cfg ||
-    echo "two at once: $(ls -A | tr '\n' ' ')" >> ../verdicts
 
 grep -v '^good: ' ../verdicts
 echo "$(wc -l < ../points) points tried"

@@ -33,21 +33,3 @@ wait_for "the aircraft stays on the chart" eval '[ "$(pixels "$chart" $green)" -
 menu 20 2
 answer not-on-paper
 end_by TERM
-
-[ -n "${UNDER_WINE:-}" ] || exit 0
-begin skerrand-simulator > flight.txt
-wait_for "the simulator does not stand" grep minutes flight.txt
-begin skerrand
-window 'Choosing an airport'
-"$bin/hold_block" > block.txt &
-holder=$!
-wait_for "no block is left by another process" grep IPC block.txt
-choose seattle heathrow
-answer block-in-the-way
-kill -KILL $holder
-window 'KSEA Chart'
-menu 20 1
-choose seattle heathrow
-window 'KSEA Chart'
-! shown 'Skerrand Message' > /dev/null || fail "no link without the block in the way"
-end_by TERM

@@ -15,10 +15,7 @@ namespace fs = std::filesystem;
 using namespace platform;
 using Names = std::vector<std::string>;
 
-std::string Content(std::string_view path) {
-    Bytes bytes;
-    return Read_File(path, bytes) ? std::string(bytes.begin(), bytes.end()) : "(unread)";
-}
+const auto Content = Scratch_Folder::Content;
 
 TEST(Files, Names_Are_Found_In_Any_Case_The_Exact_One_First) {
     const Scratch_Folder scratch;

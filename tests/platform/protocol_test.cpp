@@ -5,7 +5,6 @@
 #include <set>
 #include <sstream>
 
-#include "platform/common/handlers.h"
 #include "platform/controls.h"
 #include "platform/drawing.h"
 #include "platform/headless/program.h"
@@ -13,7 +12,6 @@
 #include "platform/message_box.h"
 #include "platform/program.h"
 #include "platform/simulator/simulator.h"
-#include "simlink/fsuipc.h"
 #include "tests/platform/scratch_folder.h"
 
 using namespace platform;
@@ -85,7 +83,10 @@ TEST_F(Protocol, A_Bad_Command_Is_No_Error_Or_Changes_Something) {
         EXPECT_TRUE(Execute(command).starts_with("error ")) << command;
     Expect({"clock = 0", "get Form9.Combo1.index = -1", "get Form9.width = 209",
             "simulator get 0 1 = 00", "simulator set 65535 Fe =", "simulator get 0xffff 1 = fe",
-            "messages =", "printer ready ="});
+            "messages =", "printer ready =", "get Form9.client_width = 201",
+            "get Form9.client_height = 200", "get Form9.height = 246", "get Form9.left = 64",
+            "get Form9.Label1.font_size = 18", "get Form9.Label1.bold = yes",
+            "get Form9.Button1.font_size = 8.25", "get Form9.Timer1.enabled = yes"});
 }
 
 TEST_F(Protocol, A_Verb_Is_Undocumented_Or_A_Documented_One_Unknown) {
@@ -101,14 +102,6 @@ TEST_F(Protocol, A_Verb_Is_Undocumented_Or_A_Documented_One_Unknown) {
     }
     const auto verbs = headless::Verbs();
     EXPECT_EQ(described, std::set<std::string>(verbs.begin(), verbs.end()));
-}
-
-TEST_F(Protocol, Measures_And_Looks_Are_Not_Those_Of_The_Table) {
-    std::istringstream values(
-        "client_width 201 client_height 200 height 246 left 64 Label1.font_size 18 "
-        "Label1.bold yes Button1.font_size 8.25 Label1.colour 0,0,0 Timer1.enabled yes");
-    for (std::string property, value; values >> property >> value;)
-        EXPECT_EQ(Execute("get Form9." + property), value + "\nok\n") << property;
 }
 
 TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
@@ -128,16 +121,6 @@ TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
     SetWindowPos(Sample, Insert_After::HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     Expect({"type Form9.Combo1  a  \u00E9  =", "get Form9.Combo1.text =  a  \u00E9 ",
             "get Form9.topmost = yes", "untop Form9 =", "get Form9.topmost = no"});
-}
-
-TEST_F(Protocol, Drives_Stand_In_Windows_Already_Loaded) {
-    Expect({"drives z: =", "drives c: [SYSTEM]|d: =", "items Form9.Drive1 ="});
-    common::On_Event([] {
-        Unload(Sample);
-        Show(Sample);
-    });
-    Expect({"items Form9.Drive1 = c: [SYSTEM]\nd:", "drive Form9.Drive1 1 =",
-            "get Form9.Drive1.drive = d:"});
 }
 
 TEST_F(Protocol, After_The_End_More_Than_The_Looks_Back_Answers) {
@@ -194,11 +177,10 @@ TEST(Folder_List, Path_Is_Not_Whole_Or_Ends_With_A_Separator) {
 }
 
 static std::string ticks;
-static std::int64_t wait_at = -1;
 
 static void Note(char name) {
     ticks += name + std::to_string(headless::Clock()) + " ";
-    if (headless::Clock() == wait_at) Sleep(75);
+    if (headless::Clock() == 90) Sleep(75);
 }
 
 constexpr Control first_controls[] = {
@@ -209,44 +191,31 @@ constexpr Control second_controls[] = {
 constexpr Window First = {"First", "", 1500, 1500, first_controls};
 constexpr Window Second = {"Second", "", 1500, 1500, second_controls};
 
-static std::string Ticks(std::int64_t milliseconds) {
-    ticks.clear();
-    headless::Advance(milliseconds);
-    return ticks + "at " + std::to_string(headless::Clock());
-}
-
-TEST(Timers, Ticks_Come_Out_Of_Order) {
+TEST(Timers, Ticks_Come_Out_Of_Order_Or_Twice_After_A_Wait_Of_The_Program) {
     headless::Begin([] {
         Show(Second);
         Show(First);
     });
-    EXPECT_EQ(Ticks(60), "c20 b20 a30 c40 b40 c60 a60 b60 at 60");
-}
-
-TEST(Timers, A_Wait_Of_The_Program_Lets_A_Timer_Tick_Twice_Or_Shortens_An_Advance) {
-    wait_at = 30;
-    headless::Begin([] { Show(First); });
-    EXPECT_EQ(Ticks(60), "b20 a30 at 105");
-    EXPECT_EQ(Ticks(20), "b105 a105 b125 at 125");
-    Ticks(100);
-    EXPECT_EQ(headless::Clock(), 225);
+    for (const int milliseconds : {60, 60, 20}) {
+        headless::Advance(milliseconds);
+        ticks += "at " + std::to_string(headless::Clock()) + "\n";
+    }
+    EXPECT_EQ(ticks,
+              "c20 b20 a30 c40 b40 c60 a60 b60 at 60\n"
+              "c80 b80 a90 at 165\n"
+              "c165 b165 a165 c185 b185 at 185\n");
 }
 
 TEST(Simulator, StateAreaIsReadOrWrittenOutsideOrOutOfPlace) {
     simulator::Start("UIPCMAIN");
     simulator::Put(0xFFFF, 7, 1);
     simulator::Put(0, 5, 1);
-    std::int32_t result = 99;
-    ASSERT_TRUE(skerrand::Open_Link(6, result));
-    const std::uint32_t zeros = 0;
     for (const auto& [offset, before, after] : std::initializer_list<std::array<std::uint32_t, 3>>{
              {0xFFFF, 7, 0}, {0x10000, 0, 0}, {0xFFFFFFFF, 0, 0}, {0x3309, 0xFADE00, 0xFADE00}}) {
-        std::uint32_t read = 9, again = 9;
-        skerrand::Queue_Read(offset, 4, &read, result);
-        skerrand::Queue_Write(offset, 4, &zeros, result);
-        skerrand::Queue_Read(offset, 4, &again, result);
-        EXPECT_TRUE(skerrand::Process_Queue(result));
-        EXPECT_EQ(std::pair(read, again), std::pair(before, after)) << offset;
+        // A read, a write of zeros, the read again.
+        std::uint32_t batch[] = {1, offset, 4, 0, 9, 2, offset, 4, 0, 1, offset, 4, 0, 9, 0};
+        auto* const block = reinterpret_cast<std::uint8_t*>(batch);
+        EXPECT_EQ(simulator::Answer_Batch({block, sizeof batch}), 1U);
+        EXPECT_EQ(std::pair(batch[4], batch[13]), std::pair(before, after)) << offset;
     }
-    skerrand::Close_Link();
 }

@@ -5,6 +5,8 @@
 #include <random>
 #include <string>
 
+#include "platform/files.h"
+
 /// A fresh folder that is the working folder for as long as the object lives.
 class Scratch_Folder {
   public:
@@ -29,6 +31,13 @@ class Scratch_Folder {
         const auto folder = std::filesystem::path(native).parent_path();
         if (!folder.empty()) std::filesystem::create_directories(folder);
         std::ofstream(std::filesystem::path(native), std::ios::binary) << content;
+    }
+
+    /// What the program reads of a file.
+    static std::string Content(std::string_view path) {
+        platform::Bytes bytes;
+        const bool read = platform::Read_File(path, bytes);
+        return read ? std::string(bytes.begin(), bytes.end()) : "(unread)";
     }
 
   private:

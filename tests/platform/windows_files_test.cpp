@@ -10,10 +10,7 @@ namespace {
 
 using namespace platform;
 
-std::string Content(std::string_view path) {
-    Bytes bytes;
-    return Read_File(path, bytes) ? std::string(bytes.begin(), bytes.end()) : "(unread)";
-}
+const auto Content = Scratch_Folder::Content;
 
 TEST(Windows_Files, PathsOfDrivesAndServersOfAnyLength) {
     const Scratch_Folder scratch;
