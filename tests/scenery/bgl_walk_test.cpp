@@ -102,18 +102,6 @@ TEST(Bgl_Walk, Wrong_Entry_Read_Or_Left_Out) {
     EXPECT_EQ(Walked_Names(long_name).size(), 65535U + 2) << "the database can hold no more";
 }
 
-TEST(Bgl_Walk, Truncated_File_Gives_Other_Airports) {
-    const Bytes sample = Sample();
-    Walked_Names(sample);
-    const std::vector<Airport_Info> whole = airport_table;
-    for (std::size_t length = 0; length < sample.size(); ++length) {
-        Walked_Names(Prefix(sample, length));
-        ASSERT_LE(airport_table.size(), whole.size());
-        for (std::size_t i = 0; i + 1 < airport_table.size(); ++i)
-            EXPECT_EQ(airport_table[i], whole[i]) << length;
-    }
-}
-
 TEST(Bgl_Walk, Shared_Bytes_Multiply) {
     // All entries point at one long block, which lies behind the section.
     const Bytes points = List(12, std::vector<Bytes>(20000, Point(1, 2, 3)));
