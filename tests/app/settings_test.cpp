@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/form2.h"
-#include "platform/controls.h"
 #include "tests/scenery/bgl_builder.h"
 
 using namespace skerrand;
@@ -36,17 +34,6 @@ TEST(Settings, SavingCutsTheBytesBehindTheRecord) {
     ASSERT_TRUE(platform::Read_File(file, longer));
     EXPECT_EQ(longer, bgl::Join({Settings_Bytes(settings), {1, 2, 3}}));
     platform::Delete_File(file);
-}
-
-TEST(Settings, SeparatorOfARootDoubledOrOfAFolderLost) {
-    platform::Show(form2::window);
-    const platform::Control_Ref text{&form2::window, 8};  // Text1
-    const std::tuple<const char*, const char*, const char*> cases[] = {
-        {"/", "", "/"}, {"/fs", "/fs", "fs"}, {"d:\\", "d:", "d:"}, {"/sim", "/sim", "/sim"}};
-    for (const auto& [folder, working_folder, chosen] : cases) {
-        Set_App_Path(folder);
-        EXPECT_EQ(app_path, working_folder);
-        platform::Set_Text(text, folder);
-        EXPECT_EQ(platform::Text_Of(text), chosen) << "only three characters lose it";
-    }
+    Set_App_Path("/");
+    EXPECT_EQ(app_path, "") << "its files would be looked for on a server";
 }

@@ -34,4 +34,9 @@ sleep 1.2
 menu 60 2
 window 'EGLL Chart'
 
-close_program
+menu 20 1
+window 'Choosing an airport'
+sleep 2.5
+click 280 240
+wait_for "CLOSE_PROGRAM did not end the program" test ! -e "/proc/$program/exe"
+wait $program || fail "exit status $?"

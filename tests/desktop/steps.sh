@@ -50,13 +50,3 @@ advance 5000
 END
     [ -s all_fs_airports.dat ] || fail "no database"
 }
-
-# Goes from the chart back to the lists, and ends the program there.
-close_program() {
-    menu 20 1
-    window 'Choosing an airport'
-    sleep 2.5
-    click 280 240
-    wait_for "CLOSE_PROGRAM did not end the program" test ! -e "/proc/$program/exe"
-    wait $program || fail "exit status $?"
-}

@@ -31,12 +31,6 @@ report() {
     failed=1
 }
 
-start() {
-    "$program" < ../commands > ../answers &
-    pid=$!
-    exec 3> ../commands 4< ../answers
-}
-
 # Ends the program; the next command starts a new one.
 restart() {
     exec 3>&- 4<&-
@@ -62,7 +56,11 @@ tell() {
     local line='' expected=("${@:2}") answer=()
     last=("$@")
     [[ ${2-} == 'error '* ]] || expected+=(ok)
-    [ -n "$pid" ] || start
+    if [ -z "$pid" ]; then
+        "$program" < ../commands > ../answers &
+        pid=$!
+        exec 3> ../commands 4< ../answers
+    fi
     echo "$1" >&3
     until [[ $line == ok || $line == 'error '* ]]; do
         IFS= read -r line <&4 || break
