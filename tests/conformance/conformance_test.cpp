@@ -74,7 +74,7 @@ TEST_F(Conformance, A_Stopped_Timer_One_Of_Interval_0_And_One_Of_A_Gone_Window_N
 }
 
 TEST_F(Conformance, A_Timer_That_Asks_Again_And_Again_Leaves_The_Processor_To_Others) {
-    if (!driver::Has_Screen()) GTEST_SKIP();
+    if (!driver::has_screen) GTEST_SKIP();
     const long long since = driver::Clock();
     Tick_Every(1, Fast);
     driver::Advance(200);
@@ -89,7 +89,7 @@ TEST_F(Conformance, Ticks_Are_Dropped_While_A_Message_Stands_With_Its_Icon_Above
         const int before = counts.slow_ticks;
         for (const Icon icon : {Icon::Information, Icon::Exclamation, Icon::Critical}) {
             Message_Box("Caf\xE9\r\nopen", icon, "Title");
-            const driver::Message shown{icon, "Title", "Caf\xE9\r\nopen", driver::Has_Screen()};
+            const driver::Message shown{icon, "Title", "Caf\xE9\r\nopen", driver::has_screen};
             EXPECT_EQ(driver::Take_Messages(), std::vector{shown});
         }
         EXPECT_EQ(counts.slow_ticks, before);
@@ -176,7 +176,7 @@ TEST_F(Conformance, A_Window_Is_On_Top_And_At_Its_Place_From_Its_Load_On_Until_T
 }
 
 TEST_F(Conformance, Tab_Goes_By_The_Table_Enter_Presses_And_What_Is_Enabled_Again_Has_Its_Focus) {
-    if (!driver::Has_Screen()) GTEST_SKIP();
+    if (!driver::has_screen) GTEST_SKIP();
     Show(Second_Window);
     for (const Control_Ref option : {Second("Option2"), Second("Option1")}) {
         Set_Checked(option, true);
@@ -196,7 +196,7 @@ TEST_F(Conformance, Tab_Goes_By_The_Table_Enter_Presses_And_What_Is_Enabled_Agai
 }
 
 TEST_F(Conformance, Escape_Presses_What_Cancels_And_Return_Or_Space_In_A_List_Is_A_Double_Click) {
-    if (!driver::Has_Screen()) GTEST_SKIP();
+    if (!driver::has_screen) GTEST_SKIP();
     Add_Entries(List1, std::array{"z"s, "a"s});
     while (driver::Focus(Main_Window) != "List1")
         driver::Press_Key(Main_Window, driver::Tab);
@@ -337,7 +337,7 @@ TEST_F(Conformance, Only_A_Picked_Entry_Is_A_Selection) {
 }
 
 TEST_F(Conformance, Typing_Replaces_The_Hint_And_Return_Takes_The_Only_Match_Alone) {
-    if (!driver::Has_Screen()) GTEST_SKIP();
+    if (!driver::has_screen) GTEST_SKIP();
     Add_Entries(Combo1, std::array{"Alpha (BETA)"s, "Bet (ALPH)"s, "Gamma (GAMM)"s});
     const auto expect_taken = [](bool by_tab, const char* typed, int index, const char* text) {
         Set_Text(Combo1, "[]");
@@ -401,7 +401,7 @@ TEST_F(Conformance, A_Folder_List_Moves_Only_To_Folders_That_Exist_And_That_Can_
     EXPECT_EQ(driver::Take_Messages().size(), 1U);
     EXPECT_EQ(Folder_Path(Dir1), path);
     EXPECT_EQ(counts.moves, 0);
-    if (driver::Has_Screen()) {
+    if (driver::has_screen) {
         for (const char* name : {"alpha", "Beta 1", "beta 2"})
             std::filesystem::create_directory(folder / name);
         Set_Folder_Path(Dir1, "/");
@@ -461,9 +461,3 @@ TEST_F(Conformance, A_Page_Has_Its_Sheet_And_Its_Lines_And_Ends_Once) {
 }
 
 }  // namespace conformance
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    driver::Prepare(argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/common/handlers.h"
 #include "platform/message_box.h"
 #include "platform/program.h"
 #include "platform/window.h"
@@ -13,15 +15,14 @@
 /// the other, in one process.
 namespace driver {
 
-/// Called once, before the first program.
-void Prepare(int& argc, char** argv);
-
 /// Starts a program as `platform::Run` would, from nothing: no window, no message, nothing ended.
 /// Windows that an earlier program left are removed without their unload handlers.
 void Start(platform::Handler start);
 
 /// Whether the program runs, that is, has not ended as `platform::Run` would see it.
-bool Running();
+inline bool Running() {
+    return !platform::common::Is_Ending();
+}
 
 /// Lets the program run for at least that long.
 void Advance(int milliseconds);
@@ -30,8 +31,11 @@ void Advance(int milliseconds);
 /// nothing happens.
 void Set_Surroundings(const std::string& command);
 
-/// The time that timers go by, in milliseconds; only differences mean something.
-long long Clock();
+/// The real time, in milliseconds; only differences mean something.
+inline long long Clock() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
 
 /// The user's doings. What is disabled takes none of them. They have had their effect, and every
 /// handler that they call has returned, when the operation returns.
@@ -53,8 +57,8 @@ void Do(Deed deed, const platform::Window& window);
 void Key(int code, bool down);
 
 /// Whether there is a screen, with a focus that keys go to and places of windows by their frame.
-/// Without one nobody asks for what stands below.
-bool Has_Screen();
+/// Without one nobody asks for what stands below, and timers go by no real time.
+extern const bool has_screen;
 
 /// Presses a key in the window, as if it were the active one.
 enum Stroke { Tab, Enter, Escape, Space, Down };

@@ -9,6 +9,8 @@
 
 namespace driver {
 
+const bool has_screen = false;
+
 namespace {
 
 using namespace platform;
@@ -23,14 +25,8 @@ void Do(const std::string& verb, const std::string& arguments) {
 
 }  // namespace
 
-void Prepare(int&, char**) {}
-
 void Start(Handler start) {
     headless::Begin(start);
-}
-
-bool Running() {
-    return !headless::Is_Ending();
 }
 
 void Advance(int milliseconds) {
@@ -39,10 +35,6 @@ void Advance(int milliseconds) {
 
 void Set_Surroundings(const std::string& command) {
     headless::Execute(command);
-}
-
-long long Clock() {
-    return headless::Clock();
 }
 
 void Click(Control_Ref control) {
@@ -86,10 +78,6 @@ void Do(Deed deed, const Window& window) {
 
 void Key(int code, bool down) {
     Do("key", std::to_string(code) + (down ? " down" : " up"));
-}
-
-bool Has_Screen() {
-    return false;
 }
 
 void Press_Key(const Window&, Stroke) {}
