@@ -3,6 +3,7 @@
 #include <chrono>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/common/handlers.h"
@@ -56,6 +57,10 @@ void Do(Deed deed, const platform::Window& window);
 /// A key goes down or up, whichever program has the focus; of a letter, by its virtual-key code.
 void Key(int code, bool down);
 
+/// Where the outer frame begins, in pixels of the screen, and whether it stays above all others.
+using Frame = std::tuple<int, int, bool>;
+Frame Frame_Of(const platform::Window& window);
+
 /// Whether there is a screen, with a focus that keys go to and places of windows by their frame.
 /// Without one nobody asks for what stands below, and timers go by no real time.
 extern const bool has_screen;
@@ -70,24 +75,13 @@ void Type_Keys(const platform::Window& window, const std::string& text);
 /// The name of the control that has the window's focus; empty if none has.
 std::string Focus(const platform::Window& window);
 
+/// The colour at a pixel of the client area.
+platform::Colour Pixel(const platform::Window& window, int x, int y);
+
 /// What a screen reader is told of a control: its name, and whether its role is that of its kind.
 /// Nothing where that cannot be asked for.
-struct Spoken {
-    std::string name;
-    bool has_role;
-
-    friend bool operator==(const Spoken&, const Spoken&) = default;
-};
+using Spoken = std::pair<std::string, bool>;
 std::optional<Spoken> Spoken_Of(platform::Control_Ref control);
-
-/// Where the outer frame begins, in pixels of the screen, and whether it stays above all others.
-struct Frame {
-    int left, top;
-    bool topmost;
-
-    friend bool operator==(const Frame&, const Frame&) = default;
-};
-Frame Frame_Of(const platform::Window& window);
 
 /// A message box is answered by itself; where time passes meanwhile, after 300 ms.
 struct Message {
@@ -101,9 +95,5 @@ struct Message {
 
 /// The messages shown since the start or the last call.
 std::vector<Message> Take_Messages();
-
-/// The colour at a pixel of the client area where no control stands but a label without a caption,
-/// and no shape but a line.
-platform::Colour Pixel(const platform::Window& window, int x, int y);
 
 }  // namespace driver

@@ -54,18 +54,6 @@ struct State {
     bool keys = platform::Is_Running(Named(form4::window, "KeyPress_Checker"));
 };
 
-/// The rows of the table. What starts the timers starts those of a minimised window too, and those
-/// under a dialog; after a print that failed both stand still, and the keys do until something
-/// draws the chart anew.
-const char* Row(const State& state) {
-    if (state.open_dialogs > 0) {
-        return state.refresher || state.keys ? "dialog open, started under it" : "dialog open";
-    }
-    if (!state.keys) return state.refresher ? "refreshed after a failed print" : "print failed";
-    if (state.minimised) return state.refresher ? "minimised, live" : "minimised";
-    return state.refresher ? "live" : "paused";
-}
-
 /// What a doing means to the timers; what is refused must change nothing at all.
 enum Effect { None, Redraws, Toggles, Opens, Prints, Sizes, Refused };
 
@@ -204,7 +192,7 @@ TEST(Weeks, ChartLeavesItsTableOrTakesWhatIsDisabled) {
     std::printf("--gtest_random_seed=%u\n", seed);
     chance.seed(seed);
     Begin();
-    std::set<std::string> rows;
+    std::set<std::array<bool, 4>> rows;
     for (int i = 0; i < WEEKS_ACTIONS; ++i) {
         if (!driver::Running()) Begin();
         const State before;
@@ -223,9 +211,9 @@ TEST(Weeks, ChartLeavesItsTableOrTakesWhatIsDisabled) {
         if (!before.chart || !seen.chart) continue;
         const State after = After(before, effect, seen);
         ASSERT_EQ(std::tie(after.refresher, after.keys), std::tie(seen.refresher, seen.keys));
-        rows.insert(Row(seen));
+        rows.insert({seen.open_dialogs > 0, seen.minimised, seen.refresher, seen.keys});
     }
-    EXPECT_EQ(rows.size(), driver::has_screen ? 6U : 8U) << testing::PrintToString(rows);
+    EXPECT_GE(rows.size(), driver::has_screen ? 6U : 16U) << testing::PrintToString(rows);
 }
 
 }  // namespace

@@ -56,7 +56,7 @@ TEST(Access, A_Control_Has_No_Name_Or_Another_Role_Than_Its_Kind) {
             const std::string name = found != names.end() ? found->second : row.caption;
             const driver::Spoken expected = {name, true};
             const driver::Spoken told = driver::Spoken_Of({&shown, i}).value_or(expected);
-            EXPECT_EQ(told, expected) << path << ": " << told.name;
+            EXPECT_EQ(told, expected) << path;
         }
     }
 }
