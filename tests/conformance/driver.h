@@ -1,9 +1,12 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "platform/common/handlers.h"
 #include "platform/message_box.h"
 #include "platform/program.h"
 #include "platform/window.h"
@@ -13,15 +16,14 @@
 /// the other, in one process.
 namespace driver {
 
-/// Called once, before the first program.
-void Prepare(int& argc, char** argv);
-
 /// Starts a program as `platform::Run` would, from nothing: no window, no message, nothing ended.
 /// Windows that an earlier program left are removed without their unload handlers.
 void Start(platform::Handler start);
 
 /// Whether the program runs, that is, has not ended as `platform::Run` would see it.
-bool Running();
+inline bool Running() {
+    return !platform::common::Is_Ending();
+}
 
 /// Lets the program run for at least that long.
 void Advance(int milliseconds);
@@ -30,8 +32,11 @@ void Advance(int milliseconds);
 /// nothing happens.
 void Set_Surroundings(const std::string& command);
 
-/// The time that timers go by, in milliseconds; only differences mean something.
-long long Clock();
+/// The real time, in milliseconds; only differences mean something.
+inline long long Clock() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
 
 /// The user's doings. What is disabled takes none of them. They have had their effect, and every
 /// handler that they call has returned, when the operation returns.
@@ -52,9 +57,13 @@ void Do(Deed deed, const platform::Window& window);
 /// A key goes down or up, whichever program has the focus; of a letter, by its virtual-key code.
 void Key(int code, bool down);
 
+/// Where the outer frame begins, in pixels of the screen, and whether it stays above all others.
+using Frame = std::tuple<int, int, bool>;
+Frame Frame_Of(const platform::Window& window);
+
 /// Whether there is a screen, with a focus that keys go to and places of windows by their frame.
-/// Without one nobody asks for what stands below.
-bool Has_Screen();
+/// Without one nobody asks for what stands below, and timers go by no real time.
+extern const bool has_screen;
 
 /// Presses a key in the window, as if it were the active one.
 enum Stroke { Tab, Enter, Escape, Space, Down };
@@ -66,24 +75,13 @@ void Type_Keys(const platform::Window& window, const std::string& text);
 /// The name of the control that has the window's focus; empty if none has.
 std::string Focus(const platform::Window& window);
 
+/// The colour at a pixel of the client area.
+platform::Colour Pixel(const platform::Window& window, int x, int y);
+
 /// What a screen reader is told of a control: its name, and whether its role is that of its kind.
 /// Nothing where that cannot be asked for.
-struct Spoken {
-    std::string name;
-    bool has_role;
-
-    friend bool operator==(const Spoken&, const Spoken&) = default;
-};
+using Spoken = std::pair<std::string, bool>;
 std::optional<Spoken> Spoken_Of(platform::Control_Ref control);
-
-/// Where the outer frame begins, in pixels of the screen, and whether it stays above all others.
-struct Frame {
-    int left, top;
-    bool topmost;
-
-    friend bool operator==(const Frame&, const Frame&) = default;
-};
-Frame Frame_Of(const platform::Window& window);
 
 /// A message box is answered by itself; where time passes meanwhile, after 300 ms.
 struct Message {
@@ -97,9 +95,5 @@ struct Message {
 
 /// The messages shown since the start or the last call.
 std::vector<Message> Take_Messages();
-
-/// The colour at a pixel of the client area where no control stands but a label without a caption,
-/// and no shape but a line.
-platform::Colour Pixel(const platform::Window& window, int x, int y);
 
 }  // namespace driver

@@ -11,12 +11,13 @@
 
 namespace driver {
 
+const bool has_screen = true;
+
 namespace {
 
 using namespace platform;
 using desktop::Window_Widget;
 
-QElapsedTimer since_start;
 std::vector<Message> messages;
 
 QPoint Place_Of_Entry(const QListView& view, int index) {
@@ -40,19 +41,23 @@ void Answer() {
     QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
 }
 
-}  // namespace
+/// Not made while tests are listed, as the build does, where there may be no screen.
+class Application final : public testing::Environment {
+    void SetUp() override {
+        static char name[] = "conformance";
+        static char* arguments[] = {name, nullptr};
+        static int count = 1;
+        // Both live as long as the process: the toolkit's own statics may still ask for them.
+        static const auto* application = new QApplication(count, arguments);
+        desktop::Set_Up_Application();
+        static auto* answers = new QTimer(QCoreApplication::instance());
+        QObject::connect(answers, &QTimer::timeout, application, Answer);
+        answers->start(10);
+    }
+};
+const auto* const environment = testing::AddGlobalTestEnvironment(new Application);
 
-void Prepare(int& argc, char** argv) {
-    // Tests are listed while building, where there may be no screen.
-    if (GTEST_FLAG_GET(list_tests)) return;
-    // Both live as long as the process: the toolkit's own statics may still ask for them.
-    static const auto* application = new QApplication(argc, argv);
-    desktop::Set_Up_Application();
-    static auto* answers = new QTimer(QCoreApplication::instance());
-    QObject::connect(answers, &QTimer::timeout, application, Answer);
-    answers->start(10);
-    since_start.start();
-}
+}  // namespace
 
 void Start(Handler start) {
     messages.clear();
@@ -61,10 +66,6 @@ void Start(Handler start) {
     QApplication::exec();
     desktop::Begin(start);
     Advance(20);
-}
-
-bool Running() {
-    return !desktop::Is_Ending();
 }
 
 void Advance(int milliseconds) {
@@ -76,10 +77,6 @@ void Advance(int milliseconds) {
 }
 
 void Set_Surroundings(const std::string&) {}
-
-long long Clock() {
-    return since_start.elapsed();
-}
 
 void Click(Control_Ref control) {
     if (QAction* entry = desktop::Find_Live(control)->action) return entry->trigger();
@@ -158,10 +155,6 @@ void Do(Deed deed, const Window& window) {
 void Key(int code, bool down) {
     const auto key = static_cast<desktop::Key_Id>(code);
     down ? desktop::Press_Key(key, {code}) : desktop::Release_Key(key);
-}
-
-bool Has_Screen() {
-    return true;
 }
 
 void Press_Key(const Window& window, Stroke key) {

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <filesystem>
 
 #include "platform/code_page.h"
@@ -8,6 +7,8 @@
 #include "tests/conformance/driver.h"
 
 namespace driver {
+
+const bool has_screen = false;
 
 namespace {
 
@@ -23,14 +24,8 @@ void Do(const std::string& verb, const std::string& arguments) {
 
 }  // namespace
 
-void Prepare(int&, char**) {}
-
 void Start(Handler start) {
     headless::Begin(start);
-}
-
-bool Running() {
-    return !headless::Is_Ending();
 }
 
 void Advance(int milliseconds) {
@@ -39,10 +34,6 @@ void Advance(int milliseconds) {
 
 void Set_Surroundings(const std::string& command) {
     headless::Execute(command);
-}
-
-long long Clock() {
-    return headless::Clock();
 }
 
 void Click(Control_Ref control) {
@@ -88,10 +79,6 @@ void Key(int code, bool down) {
     Do("key", std::to_string(code) + (down ? " down" : " up"));
 }
 
-bool Has_Screen() {
-    return false;
-}
-
 void Press_Key(const Window&, Stroke) {}
 
 void Type_Keys(const Window&, const std::string&) {}
@@ -112,29 +99,8 @@ std::vector<Message> Take_Messages() {
     return messages;
 }
 
-// Of the shapes only lines, and those along the axes, are seen here; the others are looked at as
-// calls.
-Colour Pixel(const Window& window, int x, int y) {
-    Colour colour = window.back_colour;
-    const headless::Picture& picture = Window_Device(window)->picture;
-    for (const auto& [kind, state, ends] : picture.calls) {
-        const int half = picture.states[state].pen_width / 2;
-        const auto [left, right] = std::minmax(ends[0], ends[2]);
-        const auto [top, bottom] = std::minmax(ends[1], ends[3]);
-        if (kind == headless::Call_Kind::Line && left - half <= x && x <= right + half &&
-            top - half <= y && y <= bottom + half) {
-            colour = picture.states[state].pen_colour;
-        }
-    }
-    for (std::size_t i = 0; i < window.controls.size(); ++i) {
-        const auto* label = common::Find_Live({&window, i}, Control_Kind::Label);
-        const auto& [left, top, width, height] = window.controls[i].at;
-        if (label != nullptr && !label->transparent && x * 15 >= left && x * 15 < left + width &&
-            y * 15 >= top && y * 15 < top + height) {
-            colour = {};
-        }
-    }
-    return colour;
+Colour Pixel(const Window&, int, int) {
+    return {};
 }
 
 }  // namespace driver

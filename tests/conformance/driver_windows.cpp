@@ -11,6 +11,8 @@
 // disabled window stays kept from it.
 namespace driver {
 
+const bool has_screen = true;
+
 namespace {
 
 using namespace platform;
@@ -54,7 +56,9 @@ void CALLBACK Answer(HWND, UINT, UINT_PTR, DWORD) {
     PostMessageW(box, WM_COMMAND, IDOK, 0);
 }
 
-void Press_At(HWND window, int x, int y, DWORD down, DWORD up, int times = 1) {
+void Press_At(HWND window, int x, int y, int times = 1, Mouse_Button button = Mouse_Button::Left) {
+    // The bits of left, right and middle button follow each other.
+    const DWORD down = DWORD{MOUSEEVENTF_LEFTDOWN} << 2 * static_cast<int>(button);
     // Out from under the others, without the focus, whose going would close a list.
     ::SetWindowPos(GetAncestor(window, GA_ROOT), nullptr, 0, 0, 0, 0,
                    SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -63,20 +67,16 @@ void Press_At(HWND window, int x, int y, DWORD down, DWORD up, int times = 1) {
     SetCursorPos(place.x, place.y);
     for (int i = 0; i < times; ++i) {
         mouse_event(down, 0, 0, 0, 0);
-        mouse_event(up, 0, 0, 0, 0);
+        mouse_event(down << 1, 0, 0, 0, 0);
     }
     Advance(30);
-}
-
-void Click_At(HWND window, int x, int y, int times = 1) {
-    Press_At(window, x, y, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, times);
 }
 
 void Click_Entry(HWND list, int index, int times = 1) {
     RECT place;
     SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(index),
                  reinterpret_cast<LPARAM>(&place));
-    Click_At(list, place.left + 5, (place.top + place.bottom) / 2, times);
+    Press_At(list, place.left + 5, (place.top + place.bottom) / 2, times);
 }
 
 void Strike(WORD key) {
@@ -85,22 +85,20 @@ void Strike(WORD key) {
     Advance(20);
 }
 
-}  // namespace
+class Set_Up final : public testing::Environment {
+    void SetUp() override {
+        windows::Set_Up();
+        SetTimer(nullptr, 0, 10, Answer);
+    }
+};
+const auto* const environment = testing::AddGlobalTestEnvironment(new Set_Up);
 
-void Prepare(int&, char**) {
-    if (GTEST_FLAG_GET(list_tests)) return;
-    windows::Set_Up();
-    SetTimer(nullptr, 0, 10, Answer);
-}
+}  // namespace
 
 void Start(Handler start) {
     messages.clear();
     windows::Begin(start);
     Advance(50);
-}
-
-bool Running() {
-    return !windows::Is_Ending();
 }
 
 void Advance(int milliseconds) {
@@ -111,13 +109,6 @@ void Advance(int milliseconds) {
 
 void Set_Surroundings(const std::string&) {}
 
-long long Clock() {
-    LARGE_INTEGER count, frequency;
-    QueryPerformanceCounter(&count);
-    QueryPerformanceFrequency(&frequency);
-    return count.QuadPart / (frequency.QuadPart / 1000);
-}
-
 void Click(Control_Ref control) {
     const HWND window = windows::Find_Window(*control.window)->handle;
     if (control.window->controls[control.index].kind == Control_Kind::Menu) {
@@ -126,7 +117,7 @@ void Click(Control_Ref control) {
         return Advance(30);
     }
     const RECT& place = windows::Find_Live(control)->place;
-    Click_At(window, place.left + 8, place.top + 8);
+    Press_At(window, place.left + 8, place.top + 8);
 }
 
 void Double_Click(Control_Ref list, Spot spot) {
@@ -134,7 +125,7 @@ void Double_Click(Control_Ref list, Spot spot) {
     if (spot == On_Selection) return Click_Entry(handle, Selected_Index(list), 2);
     RECT box;
     GetClientRect(handle, &box);
-    Click_At(handle, box.left + 5, box.bottom - 5, 2);
+    Press_At(handle, box.left + 5, box.bottom - 5, 2);
 }
 
 void Enter_Folder(Control_Ref folder_list, int index) {
@@ -147,13 +138,13 @@ void Pick(Control_Ref list_or_combo, int index) {
     if (live.list == nullptr) return Click_Entry(live.handle, index);
     RECT box;
     GetClientRect(live.handle, &box);
-    Click_At(live.handle, box.right - 5, box.bottom / 2);
+    Press_At(live.handle, box.right - 5, box.bottom / 2);
     Click_Entry(live.list, index);
 }
 
 void Type(Control_Ref combo, const std::string& text) {
     const HWND edit = GetWindow(windows::Find_Live(combo)->handle, GW_CHILD);
-    Click_At(edit, 8, 5);
+    Press_At(edit, 8, 5);
     SendMessageW(edit, EM_SETSEL, 0, -1);
     Type_Keys(*combo.window, text);
     Strike(VK_ESCAPE);
@@ -161,11 +152,7 @@ void Type(Control_Ref combo, const std::string& text) {
 }
 
 void Press(const Window& window, Mouse_Button button, int x, int y) {
-    constexpr std::pair<DWORD, DWORD> events[] = {{MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP},
-                                                  {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP},
-                                                  {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP}};
-    const auto [down, up] = events[static_cast<int>(button)];
-    Press_At(windows::Find_Window(window)->handle, x, y, down, up);
+    Press_At(windows::Find_Window(window)->handle, x, y, 1, button);
 }
 
 void Resize(const Window& window, int client_width, int client_height) {
@@ -196,10 +183,6 @@ void Key(int code, bool down) {
     Advance(30);
 }
 
-bool Has_Screen() {
-    return true;
-}
-
 void Press_Key(const Window& window, Stroke key) {
     SetForegroundWindow(windows::Find_Window(window)->handle);
     constexpr WORD keys[] = {VK_TAB, VK_RETURN, VK_ESCAPE, VK_SPACE, VK_DOWN};
@@ -225,11 +208,6 @@ std::string Focus(const Window& window) {
 // Wine keeps no annotations: what it tells is the text of a native window, or of the label ahead of
 // a text box; a role it has for text boxes alone.
 std::optional<Spoken> Spoken_Of(Control_Ref control) {
-    constexpr LONG roles[] = {
-        ROLE_SYSTEM_GROUPING,    ROLE_SYSTEM_STATICTEXT,  ROLE_SYSTEM_PUSHBUTTON,
-        ROLE_SYSTEM_TEXT,        ROLE_SYSTEM_COMBOBOX,    ROLE_SYSTEM_LIST,
-        ROLE_SYSTEM_CHECKBUTTON, ROLE_SYSTEM_RADIOBUTTON, ROLE_SYSTEM_PROGRESSBAR,
-        ROLE_SYSTEM_COMBOBOX,    ROLE_SYSTEM_LIST};
     const Live_Control& live = *windows::Find_Live(control);
     const Control_Kind kind = live.row->kind;
     const bool is_annotated = *live.row->caption != '\0' && *live.row->spoken != '\0';
@@ -249,8 +227,7 @@ std::optional<Spoken> Spoken_Of(Control_Ref control) {
     std::string text = windows::From_Wide_Lossy(name != nullptr ? name : L"");
     SysFreeString(name);
     if (kind == Control_Kind::Text && text.ends_with(':')) text.pop_back();
-    return Spoken{text, role.lVal == roles[static_cast<int>(kind)] ||
-                            (role.lVal == ROLE_SYSTEM_CLIENT && kind != Control_Kind::Text)};
+    return Spoken{text, kind != Control_Kind::Text || role.lVal == ROLE_SYSTEM_TEXT};
 }
 
 Frame Frame_Of(const Window& window) {

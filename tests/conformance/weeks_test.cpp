@@ -2,25 +2,21 @@
 // its table after each. Runs in a folder with a world in "fs2002"; --gtest_random_seed=N varies it.
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
 #include <random>
+#include <set>
+#include <span>
 #include <sstream>
 
-#include "app/form1.h"
-#include "app/form2.h"
-#include "app/form5.h"
-#include "app/form6.h"
 #include "app/settings.h"
 #include "chart/chart_view.h"
 #include "chart/current_chart.h"
-#include "chart/form4.h"
-#include "keys/form7.h"
-#include "keys/form8.h"
 #include "platform/controls.h"
 #include "platform/timers.h"
-#include "selection/form3.h"
+#include "tests/conformance/all_windows.h"
 #include "tests/conformance/driver.h"
 
 namespace skerrand {
@@ -30,8 +26,8 @@ using platform::Control_Ref, platform::Is_Loaded, platform::Window;
 using enum platform::Control_Kind;
 using Windows = std::vector<const Window*>;
 
-const Windows mains = {&form1::window, &form2::window, &form3::window, &form4::window};
-const Windows dialogs = {&form5::window, &form6::window, &form7::window};
+constexpr auto mains = std::span(all_windows).first(4);
+constexpr auto dialogs = std::span(all_windows).subspan(4, 3);
 std::mt19937 chance;
 bool printer_fails;
 
@@ -44,9 +40,10 @@ Control_Ref Named(const Window& window, std::string_view name) {
     return {&window, static_cast<std::size_t>(row - window.controls.begin())};
 }
 
-Windows Loaded(Windows windows) {
-    std::erase_if(windows, [](const Window* window) { return !Is_Loaded(*window); });
-    return windows;
+Windows Loaded(std::span<const Window* const> windows) {
+    Windows loaded(windows.begin(), windows.end());
+    std::erase_if(loaded, [](const Window* window) { return !Is_Loaded(*window); });
+    return loaded;
 }
 
 struct State {
@@ -57,18 +54,6 @@ struct State {
     bool keys = platform::Is_Running(Named(form4::window, "KeyPress_Checker"));
 };
 
-/// The rows of the table. What starts the timers starts those of a minimised window too, and those
-/// under a dialog; after a print that failed both stand still, and the keys do until something
-/// draws the chart anew.
-const char* Row(const State& state) {
-    if (state.open_dialogs > 0) {
-        return state.refresher || state.keys ? "dialog open, started under it" : "dialog open";
-    }
-    if (!state.keys) return state.refresher ? "refreshed after a failed print" : "print failed";
-    if (state.minimised) return state.refresher ? "minimised, live" : "minimised";
-    return state.refresher ? "live" : "paused";
-}
-
 /// What a doing means to the timers; what is refused must change nothing at all.
 enum Effect { None, Redraws, Toggles, Opens, Prints, Sizes, Refused };
 
@@ -78,10 +63,6 @@ const std::map<std::string_view, Effect> effects = {
     {"dst_airpt_chrt", Redraws}, {"p_r_refresh", Toggles},
     {"kb_assign1", Opens},       {"pref1", Opens},
     {"skerrand_abot2", Opens},   {"print_cht1", Prints}};
-
-Effect Gated(Effect effect, const State& state) {
-    return effect == Redraws && !state.refresher ? Refused : effect;
-}
 
 /// The timers after it.
 State After(State state, Effect effect, const State& seen) {
@@ -101,20 +82,17 @@ std::string Digest() {
     std::ostringstream all;
     all << chart_view.view_left << ' ' << chart_view.view_top << ' ' << chart_view.zoom_rate
         << follow_aircraft << current_airport.icao_id;
-    for (const Windows& windows : {mains, dialogs, {&form8::window}}) {
-        for (const Window* window : Loaded(windows)) {
-            all << window->name;
-            for (std::size_t i = 0; i < window->controls.size(); ++i)
-                all << platform::Selected_Index({window, i}) << platform::Is_Checked({window, i});
-        }
+    for (const Window* window : Loaded(all_windows)) {
+        all << window->name;
+        for (std::size_t i = 0; i < window->controls.size(); ++i)
+            all << platform::Selected_Index({window, i}) << platform::Is_Checked({window, i});
     }
     return all.str();
 }
 
-Effect Use(const Window& window, const State& state) {
+Effect Use(const Window& window) {
     const Control_Ref control{&window, chance() % window.controls.size()};
-    const auto& [name, kind] =
-        std::tie(window.controls[control.index].name, window.controls[control.index].kind);
+    const platform::Control_Kind kind = window.controls[control.index].kind;
     const bool refused = &window == &form7::window && Is_Loaded(form8::window);
     const int entries = std::min(platform::Entry_Count(control), 5);
     if (kind == List && platform::Selected_Index(control) >= 0 && Below(2) == 0) {
@@ -124,21 +102,24 @@ Effect Use(const Window& window, const State& state) {
     } else if (kind == Button || kind == Check || kind == Option || kind == Menu) {
         driver::Click(control);
     }
-    const auto effect = effects.find(name);
+    const auto effect = effects.find(window.controls[control.index].name);
     if (&window != &form4::window || effect == effects.end()) return refused ? Refused : None;
-    return Gated(effect->second, state);
+    return effect->second;
 }
+
+constexpr std::array keys = {&Settings_Rec::key_departure, &Settings_Rec::key_destination,
+                             &Settings_Rec::key_zoom_in, &Settings_Rec::key_zoom_out,
+                             &Settings_Rec::key_pause};
 
 Effect Press_A_Key(const State& state) {
     const int code = settings.key_departure + Below(8);
     driver::Key(code, true);
-    driver::Advance(driver::Has_Screen() ? 60 : 1);
+    driver::Advance(driver::has_screen ? 60 : 1);
     driver::Key(code, false);
     if (!state.keys) return Refused;
-    for (const auto key : {&Settings_Rec::key_departure, &Settings_Rec::key_destination,
-                           &Settings_Rec::key_zoom_in, &Settings_Rec::key_zoom_out})
-        if (settings.*key == code) return Gated(Redraws, state);
-    return settings.key_pause == code ? Toggles : None;
+    const auto key = std::ranges::find(keys, code, [](auto row) { return settings.*row; });
+    if (key == keys.end()) return None;
+    return *key == &Settings_Rec::key_pause ? Toggles : Redraws;
 }
 
 Effect Use_Frame(const Window& window, const State& state) {
@@ -157,7 +138,7 @@ void Disturb() {
                                     "simulator off", "simulator reply 0 after 2"};
     const int which = Below(5);
     driver::Set_Surroundings(commands[which]);
-    if (which < 2) printer_fails = which == 0 && !driver::Has_Screen();
+    if (which < 2) printer_fails = which == 0 && !driver::has_screen;
 }
 
 /// Goes the way to the chart.
@@ -168,10 +149,8 @@ void Go_On() {
         driver::Click(Named(form2::window, "Command1"));
         driver::Advance(1500);
         // From F2 on, keys that mean nothing to the controls of a window.
-        const Settings_Rec& old = settings;
-        settings = {
-            old.signature, 1,   1,   old.fs_path, old.airport_count, old.airspace_file_count, 113,
-            114,           115, 116, 117};
+        for (int code = 113; const auto key : keys)
+            settings.*key = code++;
     }
     for (const Control_Ref combo : {form3::Combo1, form3::Combo2})
         if (platform::Entry_Count(combo) > 5) driver::Pick(combo, Below(5));
@@ -179,12 +158,10 @@ void Go_On() {
 }
 
 Effect Do_Something(const State& state) {
-    Windows windows = Loaded(mains);
     if (!state.chart && Below(3) > 0) return Go_On(), None;
-    for (const Windows& more : {dialogs, {&form8::window}})
-        std::ranges::copy(Loaded(more), std::back_inserter(windows));
+    const Windows windows = Loaded(all_windows);
     const Window& window = *windows[chance() % windows.size()];
-    const bool is_away = driver::Has_Screen() && state.minimised && &window == &form4::window;
+    const bool is_away = driver::has_screen && state.minimised && &window == &form4::window;
     switch (Below(10)) {
         case 0:
             return driver::Advance(1 + Below(1000)), None;
@@ -197,9 +174,9 @@ Effect Do_Something(const State& state) {
         case 4:
             if (is_away || &window != &form4::window) return None;
             driver::Press(window, platform::Mouse_Button::Left, 200 + Below(60), 100);
-            return Gated(Redraws, state);
+            return Redraws;
         default:
-            return is_away ? None : Use(window, state);
+            return is_away ? None : Use(window);
     }
 }
 
@@ -215,12 +192,13 @@ TEST(Weeks, ChartLeavesItsTableOrTakesWhatIsDisabled) {
     std::printf("--gtest_random_seed=%u\n", seed);
     chance.seed(seed);
     Begin();
-    std::map<std::string, int> rows;
+    std::set<std::array<bool, 4>> rows;
     for (int i = 0; i < WEEKS_ACTIONS; ++i) {
         if (!driver::Running()) Begin();
         const State before;
         const std::string digest = Digest();
-        const Effect effect = Do_Something(before);
+        Effect effect = Do_Something(before);
+        if (effect == Redraws && !before.refresher) effect = Refused;
         if (!driver::Running()) continue;
         const State seen;
         SCOPED_TRACE(testing::Message() << "action " << i << " of effect " << effect);
@@ -233,18 +211,10 @@ TEST(Weeks, ChartLeavesItsTableOrTakesWhatIsDisabled) {
         if (!before.chart || !seen.chart) continue;
         const State after = After(before, effect, seen);
         ASSERT_EQ(std::tie(after.refresher, after.keys), std::tie(seen.refresher, seen.keys));
-        ++rows[Row(seen)];
+        rows.insert({seen.open_dialogs > 0, seen.minimised, seen.refresher, seen.keys});
     }
-    for (const auto& [row, times] : rows)
-        std::printf("%7d %s\n", times, row.c_str());
-    EXPECT_EQ(rows.size(), driver::Has_Screen() ? 6U : 8U);
+    EXPECT_GE(rows.size(), driver::has_screen ? 6U : 16U) << testing::PrintToString(rows);
 }
 
 }  // namespace
 }  // namespace skerrand
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    driver::Prepare(argc, argv);
-    return RUN_ALL_TESTS();
-}

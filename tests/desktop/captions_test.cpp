@@ -3,18 +3,11 @@
 #include <QtWidgets>
 #include <gtest/gtest.h>
 
-#include "app/form1.h"
-#include "app/form2.h"
-#include "app/form5.h"
-#include "app/form6.h"
-#include "chart/form4.h"
-#include "keys/form7.h"
-#include "keys/form8.h"
 #include "platform/desktop/drawing/text.h"
 #include "platform/desktop/windows/folder_list.h"
 #include "platform/desktop/windows/window_widget.h"
 #include "platform/message_box.h"
-#include "selection/form3.h"
+#include "tests/conformance/all_windows.h"
 
 using namespace skerrand;
 
@@ -52,9 +45,7 @@ static void Expect_Fits(const QWidget& widget, const char* name) {
 }
 
 TEST(Captions, No_Caption_Is_Cut_In_Its_Box) {
-    for (const platform::Window* table :
-         {&form1::window, &form2::window, &form3::window, &form4::window, &form5::window,
-          &form6::window, &form7::window, &form8::window}) {
+    for (const platform::Window* table : all_windows) {
         Window_Widget window(*table);
         window.Present();
         const QPoint middle = window.screen()->availableGeometry().center();

@@ -5,7 +5,7 @@
 // printer and printing, with "measure" it prints nothing. The status is 0 if the printer has taken
 // the page, 1 if not.
 
-#include <QtWidgets>
+#include <QApplication>
 #include <iostream>
 
 #include "platform/desktop/program.h"
@@ -17,12 +17,6 @@ using namespace platform;
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     desktop::Set_Up_Application();
-    // Without a printer the page goes to a file, which a message box tells.
-    QTimer answers;
-    QObject::connect(&answers, &QTimer::timeout, [] {
-        if (QWidget* box = QApplication::activeModalWidget()) box->close();
-    });
-    answers.start(5);
     if (!Open_Printer()) return EXIT_FAILURE;
     constexpr std::string_view Text = "S\xE3o Paulo, Z\xFCrich, \x8Alapanice & Co";
     const int width = static_cast<int>(Printable_Size().width);
