@@ -170,7 +170,8 @@ void Entry_Combo::Build_Completer() {
     // An entry that the arrow keys have reached stands in the text box, so it is picked.
     const auto take = [this, completer](const QModelIndex& index) {
         const auto* proxy = qobject_cast<QAbstractProxyModel*>(completer->completionModel());
-        if (!index.isValid()) return;
+        // Past the last one, and ahead of the first, they lead back to the typed text.
+        if (!index.isValid()) return Take_Typed(live, From_Qt_Lossy(completer->completionPrefix()));
         Take_Pick(live, model_of_matches->Entry(proxy->mapToSource(index).row()));
     };
     connect(completer, qOverload<const QModelIndex&>(&QCompleter::highlighted), this, take);
