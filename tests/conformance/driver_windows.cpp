@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <utility>
 
-#include "platform/windows/live.h"
+#include "platform/windows/controls.h"
 #include "platform/windows/program.h"
 #include "platform/windows/text.h"
 #include "tests/conformance/driver.h"
