@@ -12,7 +12,8 @@ add_custom_command(OUTPUT picture.bmp DEPENDS picture.png
     COMMAND ${CONVERT} picture.png +dither -colors 256 -compress RLE BMP3:picture.bmp)
 
 set(resources platform/windows/skerrand.rc)
-target_sources(skerrand PRIVATE ${resources})
+add_library(skerrand_resources OBJECT ${resources})
+target_link_libraries(skerrand PRIVATE skerrand_resources)
 set_source_files_properties(${resources} PROPERTIES
     INCLUDE_DIRECTORIES ${CMAKE_CURRENT_BINARY_DIR}
     OBJECT_DEPENDS "${CMAKE_CURRENT_BINARY_DIR}/skerrand.ico;${CMAKE_CURRENT_BINARY_DIR}/picture.bmp")
