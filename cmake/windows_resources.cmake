@@ -14,7 +14,7 @@ add_custom_command(OUTPUT picture.bmp DEPENDS picture.png
 
 set(resources platform/windows/skerrand.rc)
 add_library(skerrand_resources OBJECT ${resources})
-target_sources(skerrand PRIVATE $<TARGET_OBJECTS:skerrand_resources>)
+target_link_libraries(skerrand PRIVATE skerrand_resources)
 set_source_files_properties(${resources} PROPERTIES
     INCLUDE_DIRECTORIES ${CMAKE_CURRENT_BINARY_DIR}
     OBJECT_DEPENDS "${CMAKE_CURRENT_BINARY_DIR}/skerrand.ico;${CMAKE_CURRENT_BINARY_DIR}/picture.bmp")

@@ -66,9 +66,9 @@ window() {
     sleep 0.4
 }
 
-# click LEFT TOP [TIMES]: at a point inside the window, in pixels.
+# click LEFT TOP [TIMES]: at a point inside the window, in 96ths of an inch.
 click() {
-    xdotool mousemove --window "$id" "$1" "$2"
+    xdotool mousemove --window "$id" $(($1 * ${DPI:-96} / 96)) $(($2 * ${DPI:-96} / 96))
     sleep 0.1
     xdotool click --delay 120 --repeat "${3:-1}" 1
     sleep 0.4

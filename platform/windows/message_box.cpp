@@ -32,11 +32,12 @@ HWND Owner() {
     return owner;
 }
 
-/// The box disables its owner; the other windows take no input either while it stands.
-void Set_Input(bool enabled) {
-    for (const auto* window : windows::Loaded_Windows()) {
-        EnableWindow(static_cast<const windows::Live_Window*>(window)->handle,
-                     enabled && window->takes_input);
+/// The other windows take no input either while the box stands. Its owner it disables itself, and
+/// enables ahead of its own end: a disabled one could not become the active window then.
+void Set_Input(HWND owner, bool enabled) {
+    for (const auto* each : windows::Loaded_Windows()) {
+        const auto* window = static_cast<const windows::Live_Window*>(each);
+        if (window->handle != owner) EnableWindow(window->handle, enabled && window->takes_input);
     }
 }
 
@@ -53,9 +54,9 @@ void Message_Box(std::string_view text, Icon icon, std::string_view title) {
     {
         const windows::Handler_Scope scope;
         const HWND owner = Owner();
-        Set_Input(false);
+        Set_Input(owner, false);
         MessageBoxW(owner, windows::To_Wide(text).c_str(), windows::To_Wide(title).c_str(), style);
-        Set_Input(true);
+        Set_Input(owner, true);
     }
     windows::Drop_Due_Ticks();
 }

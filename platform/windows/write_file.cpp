@@ -56,7 +56,7 @@ bool Fill(const File_Handle& file, std::span<const std::uint8_t> bytes) {
 /// Gives an open file another name, over the file that has it. A program that watches files (a
 /// virus scanner, say) may hold the old one for a moment.
 bool Rename(const File_Handle& file, const std::wstring& native) {
-    constexpr int Tries = 10;
+    constexpr int Tries = 20;
     constexpr DWORD Between_Tries = 50;  // milliseconds
     FILE_RENAME_INFO head{};
     head.ReplaceIfExists = TRUE;
@@ -81,9 +81,15 @@ bool Rename(const File_Handle& file, const std::wstring& native) {
 /// which is on the disk then.
 std::optional<DWORD> Write(const std::wstring& temporary, const std::wstring& native,
                            std::span<const std::uint8_t> bytes) {
-    const File_Handle file(CreateFileW(temporary.c_str(), GENERIC_WRITE | DELETE, 0, nullptr,
-                                       CREATE_ALWAYS, FILE_FLAG_WRITE_THROUGH, nullptr));
-    if (file.Is_Open() && Fill(file, bytes) && Rename(file, native)) return std::nullopt;
+    {
+        const File_Handle file(CreateFileW(temporary.c_str(), GENERIC_WRITE | DELETE, 0, nullptr,
+                                           CREATE_ALWAYS, FILE_FLAG_WRITE_THROUGH, nullptr));
+        if (!file.Is_Open() || !Fill(file, bytes)) return ::GetLastError();
+        if (Rename(file, native)) return std::nullopt;
+    }
+    // A file system of others may rename by name alone.
+    constexpr DWORD Flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    if (MoveFileExW(temporary.c_str(), native.c_str(), Flags)) return std::nullopt;
     return ::GetLastError();
 }
 

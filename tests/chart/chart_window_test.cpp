@@ -129,5 +129,4 @@ TEST(Poll, RawValuesAreConvertedWrongly) {
         EXPECT_EQ(Ask("get Form4.Label1.caption"), "Altimeter: " + altimeter + "\n");
         EXPECT_EQ(aircraft_heading, heading) << set;
     }
-    platform::Unload(form4::window);
 }

@@ -54,7 +54,7 @@ TEST(Windows_Files, WhatOthersHold) {
     std::jthread other([&] {
         while (!File_Exists(temporary))
             Sleep(1);
-        for (int i = 0; i < 20; ++i, Sleep(5))
+        for (int i = 0; i < 3; ++i)
             Remove_Leftovers("Kept.dat");
         CloseHandle(holder);
     });

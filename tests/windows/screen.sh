@@ -6,13 +6,19 @@ root=$(readlink -f "$(dirname "$0")/../..")
 script=$1 bin=$(readlink -f "$2") folder=$3
 
 if [ "${4:-}" != on-screen ]; then
-    exec xvfb-run -a -s "-screen 0 1280x1024x24 -dpi ${DPI:-96}" "$0" "$@" on-screen
+    # One at a time: they share a place of Wine's, and the end of one ends all that runs there.
+    exec flock --close "$(dirname "$bin")/wine-screen.lock" \
+        xvfb-run -a -s "-screen 0 1280x1024x24 -dpi 96" "$0" "$@" on-screen
 fi
 
 . "$root/scripts/cups.sh"
 begin_printing || exit 77
 # A place apart from other tests': what runs there belongs to this screen and ends with it.
 export WINEPREFIX=$(dirname "$bin")/wine-screen
+"$root/scripts/wine" "$bin/make_world.exe" --help > /dev/null 2>&1 < /dev/null
+"$root/scripts/wine" reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /f \
+    /d "${DPI:-96}" > /dev/null 2>&1 < /dev/null
+wineserver -k
 openbox --sm-disable > /dev/null 2>&1 &
 manager=$!
 programs=$(mktemp -d)
