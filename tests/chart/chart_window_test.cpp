@@ -1,7 +1,6 @@
 // The chart in its window and on paper: one of everything, near the equator's start.
 
 #include <gtest/gtest.h>
-#include <regex>
 
 #include "chart/chart_view.h"
 #include "chart/current_chart.h"
@@ -60,21 +59,6 @@ class Chart_With_Printer : public testing::Test {
         return Ask("page " + std::to_string(std::stoi(Ask("pages"))));
     }
 };
-
-TEST_F(Chart_With_Printer, LayerShowsAtTheWrongZoomOrInTheWrongOrder) {
-    const auto looks = [](int zoom) {
-        return std::regex_replace(Picture(zoom), std::regex("(^|\n)(\\w+) [^|\n]*"), "$1$2 ");
-    };
-    EXPECT_EQ(looks(Zoom_Airport),
-              "ellipse | solid 2 128,64,64 | solid 128,64,64\ntext | 0,0,0\n"
-              "line | solid 2 192,192,192\ntext | 0,0,0\n"
-              "line | solid 2 0,192,0\ntext | 0,0,0\ntext | 0,0,0\n"
-              "line | solid 1 255,255,0\nline | solid 1 255,255,0\nline | solid 1 255,255,0\n"
-              "text | 0,0,0\ntext | 0,0,0\n");
-    EXPECT_EQ(looks(Zoom_Airport - 1),
-              "line | dashed 1 0,0,192\narc | dashed 1 0,0,192\n"
-              "ellipse | dashed 1 0,0,192 | hollow 0,0,192\ntext | 0,0,0\n");
-}
 
 TEST_F(Chart_With_Printer, PageDiffersFromThePictureBeyondFrameAndTitle) {
     for (const int zoom : {1, 22, 35, 36, 46, 55}) {

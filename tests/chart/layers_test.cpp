@@ -81,17 +81,25 @@ TEST(Airport_Layers, RunwayOutsideTheViewIsGoneOrWithoutItsLabels) {
     EXPECT_EQ(Drawn(), line);
 }
 
-TEST(Airport_Layers, PlaceOnTheViewsBoundIsDrawnOrABeamPointsTheWrongWay) {
+TEST(Airport_Layers, LayerOutOfOrderPlaceOnTheViewsBoundDrawnOrBeamTurned) {
     Clear_Chart(0.01, Zoom_Airport);
     current_airport.parkings = {
         {"GATE A 1", 0.005, 0, 50}, {"BOUND", 0.01, 0, 50}, {"OUT", 0, -0.0101, 5000}};
     // A beam flown northwards opens to the south: 1800 feet are 0.29605 miles, 99 pixels.
     current_airport.ils = {{"ILS", 0, 0, 350, "110.3"}, {"OUT", 0.01, 0, 0, "1"}};
+    current_airport.taxi_points = {{0, 0, 0}, {0, 0, 0.005}};
+    current_airport.taxi_paths = {{0, 0, 1, "A"}};
+    current_airport.runways = {{"9", "27", 0, 0, 0, 0.005, 0, 81, 261, 6000, 150}};
+    show_airport_name = true;
     EXPECT_EQ(Drawn(),
               "ellipse 196 104 204 96 | solid 2 128,64,64 | solid 128,64,64\n"
               "text 200 100 GATE A 1 | 0,0,0\n"
+              "line 200 200 300 200 | solid 2 192,192,192\ntext 250 201 A | 0,0,0\n"
+              "line 200 200 300 200 | solid 2 0,192,0\n"
+              "text 200 200 9  81* | 0,0,0\ntext 300 200 27  261* | 0,0,0\n"
               "line 200 200 209 298 | solid 1 255,255,0\nline 209 298 191 298 | solid 1 255,255,0\n"
-              "line 191 298 200 200 | solid 1 255,255,0\ntext 200 200 110.3 Mhz | 0,0,0\n");
+              "line 191 298 200 200 | solid 1 255,255,0\ntext 200 200 110.3 Mhz | 0,0,0\n"
+              "text 200 200  | 0,0,0\n");
 }
 
 static void Add(std::string_view label, std::vector<Boundary_Point> boundary) {
@@ -101,6 +109,7 @@ static void Add(std::string_view label, std::vector<Boundary_Point> boundary) {
 
 TEST(Airspace_Layer, OutlineIsBentOrTurnedTheWrongWay) {
     Clear_Chart(2, Zoom_Airport - 1);
+    current_airport.parkings = {{"of a nearer view", 0, 0, 10}};
     // 60 miles are a degree, and the corners of a circle's square lie its radius off.
     const auto unknown = static_cast<Boundary_Kind>(6);
     Add(Label_Class_B, {{Point_Start, 1, 0},

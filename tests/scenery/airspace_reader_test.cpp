@@ -101,6 +101,16 @@ TEST(Airspace_Reader, CenterIsTurnedToTheTrueCourse) {
     EXPECT_EQ(destination_airspaces.at(0).center_lon, 46.95618);
 }
 
+TEST(Airspace_Reader, TruncationLosesWhatStandsAhead) {
+    const Bytes start = Record(0x12002, Longs({0, 0, 0, 0, 0, 0}));
+    const Bytes all = Object({Round_Both, start, start});
+    for (std::size_t size = 0; size < all.size(); ++size) {
+        EXPECT_FALSE(Search(Prefix(all, size)));
+        ASSERT_EQ(departure_airspaces.size(), size >= 40 ? 1 : 0) << size;
+        EXPECT_TRUE(size < 40 || departure_airspaces[0].boundary.size() == (size - 40) / 32);
+    }
+}
+
 TEST(Airspace_Reader, OverlappingObjectsTakeQuadraticTime) {
     const std::vector<Bytes> group(4000, Longs({1, 24, 5, 0, 0x12003, 24, 0, 0}));
     EXPECT_TRUE(Search(Join({Join(group), Longs({2, 0, 0, 0, 2})})));
