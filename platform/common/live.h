@@ -46,6 +46,10 @@ struct Live_Control {
     virtual void Show_Entries() {}
     virtual void Show_Progress() {}
     virtual void Repaint() {}
+    /// Milliseconds between ticks where time is real. An interval of fewer than 5 is that of a
+    /// timer that asks again and again; it is stretched to 20, so that it leaves the processor to
+    /// others: a key press lasts 50 ms and more.
+    int Real_Interval() const { return interval < 5 ? 20 : interval; }
     /// A timer was started or stopped, or has a new interval, which begins now.
     virtual void Fit_Timer() {}
     /// Goes to a folder by a path of the program; false, changing nothing, if there is none or if

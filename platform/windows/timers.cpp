@@ -7,11 +7,6 @@ namespace platform::windows {
 
 namespace {
 
-/// A timer of fewer milliseconds is one that asks again and again. Its interval is stretched, so
-/// that it leaves the processor to others; nobody holds a key for less than that.
-constexpr int Shortest_Interval = 5;
-constexpr int Asking_Interval = 20;
-
 /// The system wakes a program at every 64th of a second, if nobody asks for better. It is asked
 /// while a timer runs that needs it, for it costs power.
 constexpr int Coarse_Interval = 16;
@@ -26,10 +21,6 @@ std::int64_t Clock() {
     LARGE_INTEGER count;
     QueryPerformanceCounter(&count);
     return count.QuadPart / (frequency / 1000);
-}
-
-int Interval_Of(const common::Live_Control& timer) {
-    return timer.interval < Shortest_Interval ? Asking_Interval : timer.interval;
 }
 
 bool Ticks(const common::Live_Control& timer) {
@@ -59,8 +50,7 @@ void Fit_Clock() {
     static bool is_fine = false;
     bool wants_fine = false;
     For_Each_Timer([&wants_fine](const common::Live_Control& timer) {
-        wants_fine =
-            wants_fine || (timer.interval >= Shortest_Interval && timer.interval < Coarse_Interval);
+        wants_fine = wants_fine || timer.Real_Interval() < Coarse_Interval;
     });
     if (wants_fine == is_fine) return;
     is_fine = wants_fine;
@@ -74,7 +64,7 @@ void Fit_Clock() {
 }  // namespace
 
 void Live_Control::Fit_Timer() {
-    due = Clock() + Interval_Of(*this);
+    due = Clock() + Real_Interval();
     Fit_Clock();
 }
 
@@ -84,7 +74,7 @@ void Run_Due_Timers() {
     while (!Is_Busy()) {
         common::Live_Control* timer = Next_Timer();
         if (timer == nullptr || timer->due > now) return;
-        timer->due = std::max(timer->due + Interval_Of(*timer), now + 1);
+        timer->due = std::max(timer->due + timer->Real_Interval(), now + 1);
         Fire(*timer);
     }
 }
@@ -98,7 +88,7 @@ DWORD Time_To_Next_Tick() {
 void Drop_Due_Ticks() {
     const std::int64_t now = Clock();
     For_Each_Timer([now](common::Live_Control& timer) {
-        const int interval = Interval_Of(timer);
+        const int interval = timer.Real_Interval();
         if (timer.due <= now) timer.due = now + interval - (now - timer.due) % interval;
     });
 }

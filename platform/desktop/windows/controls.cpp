@@ -16,11 +16,6 @@ namespace platform::desktop {
 
 namespace {
 
-/// A timer of fewer milliseconds is one that asks again and again. Its interval is stretched, so
-/// that it leaves the processor to others: a key press lasts 50 ms and more.
-constexpr int Shortest_Interval = 5;
-constexpr int Asking_Interval = 20;
-
 /// How wide a button's caption may be.
 int Caption_Room(const QAbstractButton& button, Control_Kind kind) {
     QStyleOptionButton option;
@@ -119,7 +114,7 @@ void Live_Control::Repaint() {
 
 void Live_Control::Fit_Timer() {
     if (running && interval > 0) {
-        timer->start(interval < Shortest_Interval ? Asking_Interval : interval);
+        timer->start(Real_Interval());
     } else {
         timer->stop();
     }
