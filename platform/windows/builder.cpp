@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <string_view>
 
 #include "platform/windows/canvas.h"
@@ -25,17 +24,12 @@ Native_Kind Text_Kind(const Control& row) {
     return {L"EDIT", style, WS_EX_CLIENTEDGE};
 }
 
-LONG Height_Of(const Live_Control& control) {
-    return control.place.bottom - control.place.top;
-}
-
-LONG Line_Of(const Live_Control& control) {
-    return Text_Extent(control.font != nullptr ? control.font : Default_Font(), L"X").cy;
-}
-
 /// A label breaks its caption into lines where it is high enough for two.
-bool Is_One_Line(const Live_Control& control) {
-    return control.row->kind == Control_Kind::Label && Height_Of(control) < 2 * Line_Of(control);
+Native_Kind Label_Kind(const Live_Control& control) {
+    const int line = Text_Extent(control.font != nullptr ? control.font : Default_Font(), L"X").cy;
+    const bool has_lines = control.place.bottom - control.place.top >= 2 * line;
+    return {L"STATIC", SS_NOPREFIX | WS_CLIPSIBLINGS |
+                           (has_lines ? DWORD{SS_LEFT} : DWORD{SS_LEFTNOWORDWRAP})};
 }
 
 Native_Kind Kind_Of(const Live_Control& control) {
@@ -46,7 +40,7 @@ Native_Kind Kind_Of(const Live_Control& control) {
             // It paints nothing but its edge: the window shows through it.
             return {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT};
         case Control_Kind::Label:
-            return {L"STATIC", SS_NOPREFIX | (Is_One_Line(control) ? DWORD{SS_LEFTNOWORDWRAP} : 0)};
+            return Label_Kind(control);
         case Control_Kind::Button:
             return {L"BUTTON", WS_TABSTOP | BS_PUSHBUTTON};
         case Control_Kind::Text:
@@ -104,15 +98,12 @@ void Build_Control(Live_Control& control, bool starts_group) {
     const Control& row = *control.row;
     const Live_Window& window = control.Holder();
     const RECT& place = control.place;
-    // A line of text alone leaves the edge of what stands below it uncovered.
-    const LONG height =
-        Is_One_Line(control) ? std::min(Height_Of(control), Line_Of(control)) : Height_Of(control);
     const auto index = &control - window.controls.data();
     const std::wstring name = To_Wide(Spoken_Name(window.table, static_cast<std::size_t>(index)));
     control.handle = CreateWindowExW(
         kind.extended_style, kind.class_name, name.c_str(),
         kind.style | WS_CHILD | WS_VISIBLE | (starts_group ? DWORD{WS_GROUP} : 0), place.left,
-        place.top, place.right - place.left, height, window.handle,
+        place.top, place.right - place.left, place.bottom - place.top, window.handle,
         reinterpret_cast<HMENU>(First_Id + index), GetModuleHandleW(nullptr), nullptr);
     const HFONT font = control.font != nullptr ? control.font : Default_Font();
     SendMessageW(control.handle, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
@@ -147,6 +138,12 @@ void Build_Controls(Live_Window& window) {
         const bool is_option = row.kind == Control_Kind::Option;
         Build_Control(control, !is_option || !in_options);
         in_options = is_option;
+    }
+    // Below the controls that they reach into, whose edges they would paint over.
+    for (const Live_Control& control : window.controls) {
+        if (control.row->kind != Control_Kind::Label) continue;
+        ::SetWindowPos(control.handle, HWND_BOTTOM, 0, 0, 0, 0,
+                       SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
     }
 }
 
