@@ -28,8 +28,7 @@ Native_Kind Text_Kind(const Control& row) {
 Native_Kind Label_Kind(const Live_Control& control) {
     const int line = Text_Extent(control.font != nullptr ? control.font : Default_Font(), L"X").cy;
     const bool has_lines = control.place.bottom - control.place.top >= 2 * line;
-    return {L"STATIC", SS_NOPREFIX | WS_CLIPSIBLINGS |
-                           (has_lines ? DWORD{SS_LEFT} : DWORD{SS_LEFTNOWORDWRAP})};
+    return {L"STATIC", SS_NOPREFIX | (has_lines ? DWORD{SS_LEFT} : DWORD{SS_LEFTNOWORDWRAP})};
 }
 
 Native_Kind Kind_Of(const Live_Control& control) {
@@ -76,6 +75,20 @@ RECT Place_Of(const Live_Window& window, const Control& row) {
     return To_Pixels(at);
 }
 
+/// A label ends where a text box begins below it, whose edge it would paint over.
+LONG Bottom_Of(const Live_Control& control) {
+    const RECT& place = control.place;
+    if (control.row->kind != Control_Kind::Label) return place.bottom;
+    for (const Control& row : control.Holder().table.controls) {
+        if (row.kind != Control_Kind::Text) continue;
+        const RECT text = Place_Of(control.Holder(), row);
+        RECT shared;
+        const bool meets = IntersectRect(&shared, &place, &text);
+        if (meets && text.top > (place.top + place.bottom) / 2) return text.top;
+    }
+    return place.bottom;
+}
+
 /// When the key goes up: a window that waits for keys would take one that is down for its own.
 LRESULT CALLBACK List_Procedure(HWND handle, UINT message, WPARAM first, LPARAM second, UINT_PTR,
                                 DWORD_PTR reference) {
@@ -103,7 +116,7 @@ void Build_Control(Live_Control& control, bool starts_group) {
     control.handle = CreateWindowExW(
         kind.extended_style, kind.class_name, name.c_str(),
         kind.style | WS_CHILD | WS_VISIBLE | (starts_group ? DWORD{WS_GROUP} : 0), place.left,
-        place.top, place.right - place.left, place.bottom - place.top, window.handle,
+        place.top, place.right - place.left, Bottom_Of(control) - place.top, window.handle,
         reinterpret_cast<HMENU>(First_Id + index), GetModuleHandleW(nullptr), nullptr);
     const HFONT font = control.font != nullptr ? control.font : Default_Font();
     SendMessageW(control.handle, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
@@ -138,12 +151,6 @@ void Build_Controls(Live_Window& window) {
         const bool is_option = row.kind == Control_Kind::Option;
         Build_Control(control, !is_option || !in_options);
         in_options = is_option;
-    }
-    // Below the controls that they reach into, whose edges they would paint over.
-    for (const Live_Control& control : window.controls) {
-        if (control.row->kind != Control_Kind::Label) continue;
-        ::SetWindowPos(control.handle, HWND_BOTTOM, 0, 0, 0, 0,
-                       SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
     }
 }
 
