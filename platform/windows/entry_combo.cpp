@@ -50,19 +50,13 @@ void Place_List(const Live_Control& combo) {
     const bool fits = box.bottom + height <= screen.rcWork.bottom;
     const LONG left =
         std::max(screen.rcWork.left, std::min<LONG>(box.left, screen.rcWork.right - width));
-    ::SetWindowPos(combo.list, nullptr, left, fits ? box.bottom : box.top - height, width, height,
-                   SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
-}
-
-/// The window owns its list only while that is open: under Wine a window that owns another one
-/// cannot be put on top of all.
-void Own_List(const Live_Control& combo, HWND owner) {
-    SetWindowLongPtrW(combo.list, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+    const auto topmost = reinterpret_cast<HWND>(LONG_PTR{-1});
+    ::SetWindowPos(combo.list, topmost, left, fits ? box.bottom : box.top - height, width, height,
+                   SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
 
 void Open_List(Live_Control& combo) {
     open_combo = &combo;
-    Own_List(combo, combo.Holder().handle);
     SendMessageW(combo.list, LB_SETCOUNT, combo.matches.size(), 0);
     const auto picked = std::find(combo.matches.begin(), combo.matches.end(),
                                   static_cast<std::size_t>(combo.selected));
@@ -210,9 +204,11 @@ void Set_Up_Combo(Live_Control& combo) {
     const auto reference = reinterpret_cast<DWORD_PTR>(&combo);
     combo.list = CreateWindowExW(
         WS_EX_TOOLWINDOW | WS_EX_TOPMOST | WS_EX_NOACTIVATE, L"LISTBOX", L"",
-        WS_POPUP | WS_BORDER | WS_VSCROLL | LBS_NODATA | LBS_OWNERDRAWFIXED | LBS_NOINTEGRALHEIGHT,
+        WS_CHILD | WS_BORDER | WS_VSCROLL | LBS_NODATA | LBS_OWNERDRAWFIXED | LBS_NOINTEGRALHEIGHT,
         0, 0, 0, 0, combo.Holder().handle, nullptr, GetModuleHandleW(nullptr), nullptr);
-    Own_List(combo, nullptr);
+    // As the system's own combo box does it: the list asks for its drawing where it was made, and
+    // is cut off by no window.
+    SetParent(combo.list, nullptr);
     const LONG height = Text_Extent(Default_Font(), L"X").cy + 1;
     SendMessageW(combo.list, LB_SETITEMHEIGHT, 0, height);
     SetWindowSubclass(combo.handle, Box_Procedure, 0, reference);
@@ -247,7 +243,6 @@ void Close_List(Live_Control& combo) {
     if (!Is_Open(combo)) return;
     open_combo = nullptr;
     ShowWindow(combo.list, SW_HIDE);
-    Own_List(combo, nullptr);
 }
 
 void Draw_Entry(const Live_Window& window, const DRAWITEMSTRUCT& item) {
