@@ -23,17 +23,17 @@ for ((i = 0; i < 26; i += 2)); do
 done >> commands
 
 for programs in linux windows; do
-    mkdir work
+    mkdir run
     (
-        cd work
+        cd run
         "${!programs}/make_world" ../world < /dev/null
         "${!programs}/skerrand-headless" < ../commands > answers
         # A path is a length of two bytes and the text.
         sed -Ei "s/.\x00(z:)?${scratch//\//[/\\\\]}.world/WORLD/Ig" *.cfg *.lst
     )
     mkdir "$programs"
-    mv work world "$programs"
+    mv run world "$programs"
 done
 # Charts and paths are there to be compared.
-[ "$(grep -c '^text' linux/work/answers)" -gt 200 ] && grep -q WORLD linux/work/*.lst || exit 1
+[ "$(grep -c '^text' linux/run/answers)" -gt 200 ] && grep -q WORLD linux/run/*.lst || exit 1
 diff -r linux windows
