@@ -19,16 +19,11 @@ constexpr platform::Colour Magenta{255, 0, 255};
 constexpr int Course_To_Corner_Nw = 315;
 constexpr int Course_To_Corner_Se = 135;
 
-struct Place {
-    double lat = 0;
-    double lon = 0;
-};
-
 /// Where a pass over the airspaces stands.
 struct Pass {
     const Chart_Target& target;
-    Place arc_center = {};  ///< carried from one airspace into the next
-    Place last_position = {};
+    Fix_Point arc_center = {};  ///< carried from one airspace into the next
+    Fix_Point last_position = {};
 };
 
 Pixel_Point Corner(const Pass& pass, int course, int miles) {
@@ -46,7 +41,7 @@ void Draw_Circle(const Pass& pass, Boundary_Point& point) {
 
 /// From an arc's centre to a corner of the square whose sides touch its circle, which runs through
 /// `place`. The circle's radius is in whole miles.
-std::int16_t Corner_Miles(const Pass& pass, Place place) {
+std::int16_t Corner_Miles(const Pass& pass, Fix_Point place) {
     const double radius =
         Distance_NM(pass.arc_center.lat, pass.arc_center.lon, place.lat, place.lon);
     return Round_To_Integer(std::sqrt(radius * radius + radius * radius));
@@ -55,7 +50,7 @@ std::int16_t Corner_Miles(const Pass& pass, Place place) {
 /// The arc from the last position, whose pixel is `from`, to `end` at the pixel `to`. Where these
 /// lie at different distances from the centre, the first sets the upper left corner and the other
 /// the lower right one.
-void Draw_Arc(const Pass& pass, Place end, Pixel_Point from, Pixel_Point to, bool clockwise) {
+void Draw_Arc(const Pass& pass, Fix_Point end, Pixel_Point from, Pixel_Point to, bool clockwise) {
     const Pixel_Point nw =
         Corner(pass, Course_To_Corner_Nw, Corner_Miles(pass, pass.last_position));
     const Pixel_Point se = Corner(pass, Course_To_Corner_Se, Corner_Miles(pass, end));
@@ -66,7 +61,7 @@ void Draw_Arc(const Pass& pass, Place end, Pixel_Point from, Pixel_Point to, boo
 
 void Draw_Point(Pass& pass, Boundary_Point& point) {
     using enum Boundary_Kind;
-    const Place place{point.lat, point.lon};
+    const Fix_Point place{point.lat, point.lon};
     const Pixel_Point at = Project(pass.target, place.lat, place.lon);
     const Pixel_Point before = Project(pass.target, pass.last_position.lat, pass.last_position.lon);
     switch (point.kind) {

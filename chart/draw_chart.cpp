@@ -60,21 +60,16 @@ std::string Runway_Label(const std::string& id, std::int16_t heading) {
     return label;
 }
 
-struct Place {
-    double lat = 0;
-    double lon = 0;
-};
-
 struct Path_Ends {
-    Place start;
-    Place end;
+    Fix_Point start;
+    Fix_Point end;
 };
 
 template <typename Element>
-std::optional<Place> Place_At(const std::vector<Element>& table, std::int32_t index) {
+std::optional<Fix_Point> Place_At(const std::vector<Element>& table, std::int32_t index) {
     if (index < 0 || static_cast<std::size_t>(index) >= table.size()) return std::nullopt;
     const Element& element = table[static_cast<std::size_t>(index)];
-    return Place{element.lat, element.lon};
+    return Fix_Point{element.lat, element.lon};
 }
 
 /// The ends of a path; those of the path before it for a kind that has no meaning here. Nothing if
@@ -92,14 +87,12 @@ std::optional<Path_Ends> Ends_Of(const Taxi_Path& path, const Path_Ends& before)
 }
 
 /// Half way along the path, where its name stands.
-Place Middle_Of(const Path_Ends& ends) {
+Fix_Point Middle_Of(const Path_Ends& ends) {
     const auto [start, end] = ends;
     const std::int16_t feet = Distance_Feet(start.lat, start.lon, end.lat, end.lon);
     const std::int16_t course = Magnetic_To_True(
         Magnetic_Course(start.lat, start.lon, end.lat, end.lon), start.lat, start.lon);
-    const Fix_Point middle =
-        Destination_Feet(start.lat, start.lon, course, Round_To_Integer(feet / 2.0));
-    return {middle.lat, middle.lon};
+    return Destination_Feet(start.lat, start.lon, course, Round_To_Integer(feet / 2.0));
 }
 
 bool Has_Label(const Taxi_Path& path) {
@@ -141,7 +134,7 @@ void Draw_Taxiways(const Chart_Target& target) {
                   Project(target, end.lat, end.lon));
         if (!Has_Label(path)) continue;
         // The middle costs more than all the rest, and serves the label alone.
-        const Place middle = Middle_Of(ends);
+        const Fix_Point middle = Middle_Of(ends);
         Draw_Label(target.device, Project(target, middle.lat, middle.lon), path.name);
     }
 }

@@ -66,10 +66,8 @@ Fix_Point Destination(double lat, double lon, int course, double miles, double p
         const double turn = Arc_Sin(std::sin(bearing) * std::sin(angle) / std::cos(lat2));
         west2 = Float_Mod(west - turn + Pi, Two_Pi) - Pi;
     }
-    Fix_Point fix;
-    fix.lat = Round_Decimals(lat2 * Radians_To_Degrees, power);
-    fix.lon = Round_Decimals(-west2 * Radians_To_Degrees, power);
-    return fix;
+    return {Round_Decimals(lat2 * Radians_To_Degrees, power),
+            Round_Decimals(-west2 * Radians_To_Degrees, power)};
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 /// Calculations on a spherical Earth whose unit is the nautical mile, one minute of arc. Latitude
 /// and longitude are degrees, north and east positive; courses are whole degrees clockwise from
@@ -10,11 +9,8 @@
 namespace skerrand {
 
 struct Fix_Point {
-    std::string fix_name;
-    std::string fix_kind;
     double lat = 0;
     double lon = 0;
-    std::int32_t fix_extra = 0;
 };
 
 /// Radians, -pi/2 to pi/2; 0 for |x| > 1.
