@@ -20,6 +20,9 @@ TEST(EntryBoxes, The_Arrow_Keys_Lead_Back_To_The_Typed_Text_With_An_Entry_Picked
     Set_Enabled(combo, true);
     auto* box = static_cast<QComboBox*>(desktop::Find_Live(combo)->widget);
     box->setFocus();
+    QWheelEvent turn({}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(box, &turn);
+    EXPECT_EQ(Selected_Index(combo), -1) << "by the wheel";
     QTest::keyClicks(box->lineEdit(), "bet");
     const std::pair<Qt::Key, int> steps[] = {{Qt::Key_Down, 0},  {Qt::Key_Down, 1},
                                              {Qt::Key_Down, -1}, {Qt::Key_Up, 1},

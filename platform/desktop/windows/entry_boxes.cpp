@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "platform/desktop/drawing/text.h"
@@ -206,6 +207,11 @@ void Entry_Combo::Fit_Text() {
 void Entry_Combo::resizeEvent(QResizeEvent* event) {
     QComboBox::resizeEvent(event);
     Fit_Text();
+}
+
+/// Turned over the box in passing the wheel would pick another entry, unnoticed.
+void Entry_Combo::wheelEvent(QWheelEvent* event) {
+    event->ignore();
 }
 
 void Entry_Combo::Set_Entries(const QStringList& entries) {

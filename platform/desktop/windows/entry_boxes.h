@@ -52,6 +52,7 @@ class Entry_Combo final : public QComboBox {
     bool eventFilter(QObject* text_box, QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
   private:
     void Build_Completer();

@@ -52,6 +52,9 @@ Folder_List::Folder_List(QWidget* parent)
     setFocusPolicy(list->focusPolicy());  // the proxy's own does not count in the order of Tab
     list->setUniformItemSizes(true);
     list->setTextElideMode(Qt::ElideNone);
+    // A desktop's theme may open entries by one click; the second of a double click would open one
+    // more.
+    list->setStyleSheet(QStringLiteral("activate-on-singleclick: 0"));
     connect(list, &QListWidget::itemActivated, this,
             [this](QListWidgetItem* item) { Walk(*item); });
     if (!Go_To("")) Go_To("/");
