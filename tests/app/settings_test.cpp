@@ -21,19 +21,6 @@ TEST(Settings, FieldAtAnotherOffsetOrCutFileTakenForWhole) {
     EXPECT_EQ(record, Sample);
     record.airspace_file_count = -1;
     EXPECT_FALSE(Parse_Settings(Settings_Bytes(record), record)) << "it would size a table";
-}
-
-TEST(Settings, SavingCutsTheBytesBehindTheRecord) {
-    Set_App_Path(testing::TempDir());
-    settings = Sample;
-    const std::string file = Own_File(Settings_File);
-    platform::Bytes longer = bgl::Join({Settings_Bytes(settings), {1, 2, 3}});
-    ASSERT_EQ(platform::Write_File(file, longer), "");
-    settings.airport_count = 5;
-    ASSERT_EQ(Save_Settings(), "");
-    ASSERT_TRUE(platform::Read_File(file, longer));
-    EXPECT_EQ(longer, bgl::Join({Settings_Bytes(settings), {1, 2, 3}}));
-    platform::Delete_File(file);
     Set_App_Path("/");
     EXPECT_EQ(app_path, "") << "its files would be looked for on a server";
 }

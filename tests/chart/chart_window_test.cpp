@@ -8,7 +8,6 @@
 #include "chart/printing.h"
 #include "platform/headless/program.h"
 #include "platform/headless/protocol.h"
-#include "platform/simulator/simulator.h"
 #include "selection/airspace_search.h"
 #include "selection/picks.h"
 #include "simlink/live_poll.h"
@@ -92,25 +91,5 @@ TEST_F(Chart_With_Printer, APreferenceSwitchesMoreOrLessThanItsOwn) {
                 EXPECT_NE(picture.find(stays), picture.npos) << box;
             }
         }
-    }
-}
-
-TEST(Poll, RawValuesAreConvertedWrongly) {
-    platform::headless::Begin([] {
-        platform::simulator::Start("UIPCMAIN");
-        platform::Show(form4::window);
-    });
-    const std::tuple<std::string, std::string, std::uint8_t, int> cases[] = {
-        {"0xEC6 0800", "0", Unit_Millibars, 0},  // half to even
-        {"0xEC6 1800", "2", Unit_Millibars, 0},      {"0xEC6 FFFF", "4096", Unit_Millibars, 0},
-        {"0xEC6 0500", "0.01", Unit_Inches, 0},      {"0x580 000000C0", "0.01", Unit_Inches, -90},
-        {"0x580 00000010", "0.01", Unit_Inches, 22}, {"0x580 00000030", "0.01", Unit_Inches, 68},
-    };
-    for (const auto& [set, altimeter, unit, heading] : cases) {
-        altimeter_unit = unit;
-        Ask("simulator set " + set);
-        Ask("advance 1000");
-        EXPECT_EQ(Ask("get Form4.Label1.caption"), "Altimeter: " + altimeter + "\n");
-        EXPECT_EQ(aircraft_heading, heading) << set;
     }
 }

@@ -152,25 +152,6 @@ TEST(View, ProjectionRoundsHalvesAwayFromEven) {
     EXPECT_EQ(Project(target, 1e300, 1e300), (Pixel_Point{INT32_MAX, INT32_MIN}));
 }
 
-TEST(View, ZoomDriftsOrPassesItsEnds) {
-    chart_view = start;
-    for (int i = 0; i < 8; ++i)
-        Zoom_In();
-    EXPECT_NEAR(chart_view.view_right - chart_view.view_left, 20 * std::pow(0.8, 8), 1e-12);
-    for (int i = 0; i < 8; ++i)
-        Zoom_Out();
-    EXPECT_NEAR(chart_view.view_left, start.view_left, 1e-12);
-    EXPECT_NEAR(chart_view.view_top, start.view_top, 1e-12);
-    for (bool (*step)() : {Zoom_In, Zoom_Out}) {
-        while (step()) {
-        }
-        EXPECT_EQ(chart_view.zoom_rate, step == Zoom_In ? 55 : 1);
-        const double left = chart_view.view_left;
-        step();
-        EXPECT_EQ(chart_view.view_left, left);
-    }
-}
-
 TEST(Active_Runway, EqualLengthsAndOddTables) {
     const auto active = [](std::initializer_list<std::pair<const char*, int>> runways) {
         Airport_Info info;

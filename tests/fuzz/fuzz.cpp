@@ -21,6 +21,7 @@
 #include "simlink/fsuipc.h"
 #include "tests/scenery/bgl_builder.h"
 #include "tests/simlink/fake_link.h"
+#include "tools/scenery_file.h"
 
 using namespace skerrand;
 using namespace skerrand::bgl;
@@ -117,7 +118,8 @@ void Fuzz_Link(Bytes input) {
             fake.block[(input[i - 2] | input[i - 1] << 8) & 0x7FFF] = input[i] ^ flip;
     };
     const auto spoil = [&write](Block) { write(0); };
-    Answer(0x31230002, 0xFADE0006);
+    platform::simulator::Start("UIPCMAIN");
+    fake.server = platform::simulator::Answer_Batch;
     if ((deeds & 1) == 0) fake.server = spoil;
     fake.calls.clear();
     fake.reply = 1;
@@ -161,9 +163,21 @@ Bytes Magdec(std::int64_t length, std::int64_t section) {
 }
 
 void Write_Samples(const std::string& folder) {
-    Load(Sample());
+    const world::Airport_Facts airport{
+        "LXGB",
+        "Rock",
+        {45, 90},
+        9,
+        {{world::Tower_Use, 1213000}},
+        {{9, 1, {45, 89.9}, {45, 90.1}, 150, {{"ILS 09", {45, 90.1}, 90, 1095000}}}},
+        {{45, 90.1}, {45.1, 90}},
+        {{{45, 90}, 12, 5, 12}},
+        {{{}, 0, 1, 0, "B"}, {world::Path_Kind::Parking, 1, 0, 0, ""}}};
+    const world::Airspace_Facts airspace{"", 0, 9, 1243000, "FIR", {{0, 0}, {60, 120}}, {{}, {}}};
+    const Bytes scenery = Text(world::Scenery_File({&airport, 1}, {&airspace, 1}));
+    Load(scenery);
     Walk_Bgl();
-    const Bytes airports = Airport_Table_Bytes(std::span(airport_table).first(2));
+    const Bytes airports = Airport_Table_Bytes(std::vector(2, airport_table.at(0)));
     const Bytes list = Airspace_List_Bytes(std::vector<std::string>{"a", "b"});
     Bytes start = Settings_Bytes({"Skerrand v2.0", 1, 1, "/fs2002", 2, 2, 49, 50, 107, 109, 65});
     start.resize(64);
@@ -172,9 +186,7 @@ void Write_Samples(const std::string& folder) {
         Join({start, list}),
         Join({{1, 0}, {8, 0, 4, 25, 0, 3, 36, 0, 1}}),
         Join({{5, 0}, {9, 0, 0x7F, 10, 0, 1}}),
-        Sample(),
-        Image({}, Join({Group(), Group(5), Group()})),
-        Image({{"A", Record(0x10003, {}, -8)}}),
+        scenery,
         Text(areas),
         Magdec(130442, 114),
         Magdec(130442, 115),

@@ -93,49 +93,6 @@ inline Bytes Name(std::string_view name) {
     return Join({Text(name), Bytes(8 - name.size())});
 }
 
-/// A whole file of airports, by name and records; an empty airspace section is none.
-inline Bytes Image(const std::vector<std::pair<std::string, Bytes>>& airports,
-                   const Bytes& airspaces = {}) {
-    constexpr std::int64_t header = 168;
-    const Bytes end = Longs({0x99999});
-    std::int64_t target = header + 24 + 8;
-    for (const auto& [name, records] : airports)
-        target += 16 + std::ssize(name);
-    Bytes entries, blocks;
-    for (const auto& [name, records] : airports) {
-        const Bytes entry = Join({Longs({0x50001, target + std::ssize(blocks)}), Text(name)});
-        entries = Join({entries, Record(0x30002, entry)});
-        blocks = Join({blocks, Longs({1, 0, 1, 0}), records, end});
-    }
-    const Bytes list = Record(0x30001, Join({Longs({0, 0, 0, std::ssize(airports) - 1}), entries}));
-    Bytes file = Join({Bytes(header), list, end, Longs({0}), blocks});
-    Put(file, 0x76, Longs({0x87654321}));
-    Put(file, 0x90, Longs({1, 0, 0, airports.empty() ? 0 : header}));
-    if (airspaces.empty()) return file;
-    Put(file, 0xA4, Longs({std::ssize(file)}));
-    return Join({file, airspaces, end});
-}
-
-/// Top-level entry of the airspace section.
-constexpr auto Group = [](int kind = 4) { return Record(1, Longs({kind, 0, 0x99999, 0})); };
-
-/// A sound file with every kind of record.
-inline Bytes Sample() {
-    const Bytes taxi =
-        Taxi({List(12, {Point(1, 10, -20), Point(1, 0, 35.5F), Point(5, -700, 0)}),
-              List(20, {Parking(15, 25, 12, 0x800605), Parking(-40, -5, 0.5F, 0xA00090)}),
-              List(32, {Path(0, 0, 1, 1), Path(1, 1, 2, 0), Path(2, 2, 0, 0)}),
-              List(8, {Name(""), Name("B")})});
-    const Bytes large =
-        Join({Position(5000875, 0x40000000), Icao("lxgb"), Com(6, 0x01213000), Com(1, 0x01180000),
-              Runway({5000875, 0x40000000, 3, 0x40000000, 6000, 150, 1, 9}),
-              Aid(5000000, 0x40000001, 0x40000000, 0x01095000, 4, "ILS 09"), taxi,
-              Record(0x10003, Longs({7})), Record(0x10005, {})});
-    const Bytes small = Join({Position(-900000, -70000000), Icao("2W3"), Runway({}), taxi});
-    return Image({{"North Front", large}, {"Strip", small}, {"Nothing", {}}},
-                 Join({Record(0x30001, Longs({0})), Group(2), Group(), Group()}));
-}
-
 /// Puts a file in hand for a scan, with the tables empty.
 inline void Load(const Bytes& file) {
     bgl_bytes = Join({file, {0}});

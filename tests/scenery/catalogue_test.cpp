@@ -6,9 +6,7 @@
 
 #include "app/settings.h"
 #include "platform/code_page.h"
-#include "scenery/scan.h"
 #include "tests/platform/scratch_folder.h"
-#include "tests/scenery/bgl_builder.h"
 
 using namespace skerrand;
 
@@ -80,24 +78,4 @@ TEST(Catalogue, FolderNotFoundOrLeftAsGiven) {
     }
     EXPECT_FALSE(Read_Scenery_Cfg("no_such_scenery.cfg"));
     EXPECT_TRUE(scenery_areas.empty()) << "left from another file";
-}
-
-TEST(Scan, SecondOneOfARunGoesOnWhereTheFirstEnded) {
-    const Scratch_Folder scratch;
-    const platform::Bytes sample = bgl::Sample();
-    Scratch_Folder::Put("scenery.cfg", "[Area.1]\nLocal=Scenery");
-    Scratch_Folder::Put("Scenery/a.bgl", {sample.begin(), sample.end()});
-    Scratch_Folder::Put("Scenery/\u0416.bgl", "");
-    fs_root = scratch.Path();
-    sim_version = Version_FS2002;
-    first_run = true;
-    for (int scan = 0; scan < 2; ++scan) {
-        EXPECT_EQ(Prepare_Scan({}), 2);
-        while (Area_In_Hand())
-            Scan_Next_File();
-        EXPECT_EQ(airport_table.size(), 3);
-        EXPECT_EQ(airspace_files.size(), 1);
-        EXPECT_EQ(Unread_In_Scan().count, 1);
-    }
-    bgl::Load({});  // the tables as other tests find them
 }

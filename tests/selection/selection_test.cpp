@@ -1,63 +1,50 @@
 #include <cmath>
-#include <filesystem>
 #include <gtest/gtest.h>
 
+#include "app/settings.h"
 #include "chart/current_chart.h"
+#include "scenery/database.h"
 #include "scenery/magnetic.h"
 #include "selection/airspace_search.h"
 #include "selection/geodesy.h"
 #include "selection/picks.h"
-#include "tests/scenery/bgl_builder.h"
+#include "tests/platform/scratch_folder.h"
+#include "tools/scenery_file.h"
 
 using namespace skerrand;
 
-using namespace bgl;
-
-/// An airspace round the place 45, 45 with its limits and, unless it is null, a frequency's text.
-static Bytes Airspace(std::int32_t low, std::int32_t high, const char* facility) {
-    const Bytes bounds = Record(0x1000B, Longs({0, 0, 1 << 24, 1 << 30}));
-    const Bytes start = Record(0x12002, Longs({0, 0, 0, 0, low, high}));
-    const Bytes freq =
-        facility ? Record(0x20001, Join({Longs({0x01243000, 0}), bgl::Text(facility)})) : Bytes();
-    return Record(1, Join({Longs({5, 0}), bounds, start, freq}));
-}
-
-static std::string Saved(const char* name, const Bytes& bytes) {
-    const std::string path = testing::TempDir() + "/" + name;
-    EXPECT_EQ(platform::Write_File(path, bytes), "");
-    return path;
-}
-
 static std::string progress;
 
-/// Both airports stand at that place.
-static Unread_Files Search(const std::vector<std::string>& files) {
+/// Both airports stand amid these airspaces.
+static void Search(const std::vector<world::Airspace_Facts>& airspaces) {
+    const Scratch_Folder scratch;
+    Scratch_Folder::Put("a.bgl", world::Scenery_File({}, airspaces));
     first_run = false;
     database_ready = true;
     for (Airport_Info* airport : {&departure_airport, &destination_airport})
         airport->lat = airport->lon = 45;
     current_airspaces.resize(3);
-    airspace_files = files;
+    airspace_files = {"gone.bgl", scratch.Path() + "/a.bgl"};
     progress.clear();
-    Unread_Files unread = Search_Airspaces([](int done, int of) {
+    const Unread_Files unread = Search_Airspaces([](int done, int of) {
         progress += std::to_string(done) + '/' + std::to_string(of) + ' ';
     });
+    EXPECT_EQ(unread.first + ' ' + progress, "gone.bgl 0/2 1/2 2/2 ");
     EXPECT_TRUE(airspace_files.empty() && current_airspaces.empty());
-    return unread;
 }
 
 TEST(Airspace_Search, LabelOrDiscWrong) {
     const std::tuple<std::int32_t, std::int32_t, const char*, const char*> cases[] = {
-        {0, 2500, nullptr, "Airspace Class D"},  {2500, 2501, nullptr, "Airspace Class C"},
-        {2501, 0, nullptr, "Airspace Class C"},  {4000, 4001, nullptr, "Airspace Class B"},
-        {4001, -1, nullptr, "Airspace Class B"}, {INT32_MIN, -1, nullptr, "Airspace Class D"},
-        {9000, 9000, "FIR", "ARTCC/FIR"},        {1000, 2000, "", "Airspace Class D"}};
-    Bytes objects;
+        {0, 2500, "", "Airspace Class D"},  {2500, 2501, "", "Airspace Class C"},
+        {2501, 0, "", "Airspace Class C"},  {4000, 4001, "", "Airspace Class B"},
+        {4001, -1, "", "Airspace Class B"}, {INT32_MIN, -1, "", "Airspace Class D"},
+        {9000, 9000, "FIR", "ARTCC/FIR"}};
+    std::vector<world::Airspace_Facts> airspaces;
     for (const auto& [low, high, facility, label] : cases)
-        objects = Join({objects, Airspace(low, high, facility)});
+        airspaces.push_back({"", low, high, 1243000, facility, {{0, 0}, {90, 90}}, {{}}});
     departure_airport.departure_freq = "124.3";
     departure_airport.approach_freq = "118";
-    Search({Saved("ladder.bgl", Image({}, Record(1, Join({Longs({4, 0}), objects}))))});
+    Search(airspaces);
     ASSERT_EQ(departure_airspaces.size(), std::size(cases) + 1);
     EXPECT_EQ(destination_airspaces.size(), std::size(cases)) << "no frequency, no disc";
     for (std::size_t i = 0; i < std::size(cases); ++i)
@@ -75,23 +62,6 @@ TEST(Airspace_Search, LabelOrDiscWrong) {
     EXPECT_EQ(departure_airspaces.at(0).freq_text, "124.3 Mhz  ");
     EXPECT_EQ(destination_airspaces.at(0).freq_text, "119.1 Mhz  ");
     departure_airport = destination_airport = {};
-}
-
-TEST(Airspace_Search, FileUnreadOrReadForAnother) {
-    Bytes bytes = Image({}, Record(1, Join({Longs({4, 0}), Airspace(0, 0, nullptr)})));
-    const std::string sound = Saved("sound.bgl", bytes);
-    bytes[0x76] = 0;
-    const std::string foreign = Saved("foreign.bgl", bytes),
-                      twin = testing::TempDir() + "/FOREIGN.bgl";
-    std::filesystem::copy(sound, twin);
-    EXPECT_EQ(Search({foreign, Saved("short.bgl", Bytes(0x79)), sound}).count, 0);
-    EXPECT_EQ(departure_airspaces.size(), 2) << "a list in lower case stands for both";
-    std::filesystem::remove(twin);
-    const Unread_Files unread = Search({"no such 1", sound, "no such 2", foreign, sound});
-    EXPECT_EQ(departure_airspaces.size(), 2);
-    EXPECT_EQ(unread.count, 2);
-    EXPECT_EQ(unread.first, "no such 1");
-    EXPECT_EQ(progress, "0/5 1/5 2/5 3/5 4/5 5/5 ");
 }
 
 TEST(Geodesy, AngleOutsideItsRange) {
@@ -167,22 +137,17 @@ TEST(Geodesy, VariationIsTakenFromTheNearestGridPoint) {
     }
 }
 
-TEST(Picks, EqualEntriesTakeTheFirstOrTheTableStays) {
-    const std::pair<const char*, const char*> airports[] = {
-        {"Field", "AAAA"}, {"Field (AAAA)", ""}, {"Field", "AAAA"}, {"Field", "aaaa"}, {"", ""}};
-    const std::pair<const char*, double> cases[] = {
-        {"Field (AAAA)", 2}, {"Field (aaaa)", 3}, {"Field (AAAA) ()", 1}, {" ()", 4}, {"None", 9}};
-    for (const auto& [entry, place] : cases) {
-        airport_table.clear();  // of other tests
-        for (const auto& [name, id] : airports) {
-            Airport_Info& airport = airport_table.emplace_back();
-            airport.airport_name = name;
-            airport.icao_id = id;
-            airport.lat = static_cast<double>(airport_table.size() - 1);
-        }
-        departure_airport.lat = destination_airport.lat = 9;
-        Take_Picks(entry, "Field (aaaa)");
-        EXPECT_EQ(departure_airport.lat, place) << entry;
+TEST(Picks, AnotherOfEqualEntriesIsTakenOrTheTableStays) {
+    airport_table.clear();  // of other tests
+    for (const char* id : {"AAAA", "AAAA", "aaaa"}) {
+        Airport_Info& airport = airport_table.emplace_back();
+        airport.airport_name = "Field";
+        airport.icao_id = id;
+        airport.lat = static_cast<double>(airport_table.size());
+    }
+    for (int pick = 0; pick < 2; ++pick) {  // the second one finds nothing
+        Take_Picks("Field (AAAA)", "Field (aaaa)");
+        EXPECT_EQ(departure_airport.lat, 2);
         EXPECT_EQ(destination_airport.lat, 3);
         EXPECT_EQ(airport_table.capacity(), 0) << "the memory of a world";
     }

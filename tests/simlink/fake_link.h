@@ -7,11 +7,13 @@
 #include <string>
 
 #include "platform/link.h"
+#include "platform/simulator/simulator.h"
 
 using Block = std::span<std::uint8_t>;
 
 /// For one file of a program: the link operations of a platform that lives inside the test: each
-/// can be made to fail, a wait only moves a number, and the server is a function over the block.
+/// can be made to fail, a wait only moves a number, and the server is a function over the block, if
+/// nothing else is said that of the stand-in.
 struct Fake_Link {
     const char* window_class = "UIPCMAIN";  ///< of the one window that stands
     std::uint16_t message = 0xC0DE, atom = 0xC001;
@@ -19,7 +21,7 @@ struct Fake_Link {
     bool view_fails = false;
     int failing_sends = 0;  ///< so many sends fail before the first that succeeds
     std::uint32_t error = 0, reply = 1;
-    std::function<void(Block)> server = [](Block) {};
+    std::function<void(Block)> server = platform::simulator::Answer_Batch;
 
     std::uint32_t clock = 0;
     int sends = 0;
@@ -81,12 +83,4 @@ void Sleep(std::uint32_t milliseconds) {
 
 inline void Put(Block block, int at, std::uint32_t value) {
     std::memcpy(block.data() + at, &value, sizeof value);
-}
-
-/// Puts version words where the batch of the opening has its two answers.
-inline void Answer(std::uint32_t fsuipc, std::uint32_t fs) {
-    fake.server = [=](Block block) {
-        Put(block, 16, fsuipc);
-        Put(block, 36, fs);
-    };
 }

@@ -1,9 +1,7 @@
 // The real client and the stand-in simulator's server, each a process of its own, as in life.
 
 #include <csignal>
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
 #include <sys/wait.h>
 
 #include "app/settings.h"
@@ -78,16 +76,6 @@ class Transport : public testing::Test {
     pid_t server = 0;
 };
 
-TEST_F(Transport, Shrunk_Block_Kills_The_Client) {
-    int blocks = 0;
-    for (int file = STDERR_FILENO + 1; file < 64; ++file) {
-        if (fcntl(file, F_GET_SEALS) < 0) continue;
-        ++blocks;
-        EXPECT_TRUE(ftruncate(file, 0) != 0 && ftruncate(file, 0x9000) != 0);
-    }
-    EXPECT_EQ(blocks, 1);
-}
-
 TEST_F(Transport, Server_Outlives_The_Process_That_It_Follows) {
     const pid_t followed = In_Child([] { return pause() == 0; });
     const pid_t follower = In_Child([&] {
@@ -103,15 +91,9 @@ TEST_F(Transport, Server_Outlives_The_Process_That_It_Follows) {
 }
 
 TEST_F(Transport, Lying_Server_Is_Believed_Or_Holds_The_Client) {
-    const std::tuple<const char*, void (*)(int client), std::uint32_t, std::uint32_t> lies[] = {
-        {"closes", [](int) {}, Gone, Long_Enough},
-        {"hangs", [](int) { pause(); }, Timed_Out, 30},
-        {"floods",
-         [](int client) {
-             for (const posix::Link_Reply old{0, 1}; send(client, &old, sizeof old, 0) > 0;) {
-             }
-         },
-         Timed_Out, 30},
+    const std::tuple<const char*, void (*)(int client), std::uint32_t> lies[] = {
+        {"closes", [](int) {}, Gone},
+        {"hangs", [](int) { pause(); }, Timed_Out},
         {"sends rubbish and a late reply ahead",
          [](int client) {
              std::array<posix::Link_Reply, 9> packet{};
@@ -123,18 +105,16 @@ TEST_F(Transport, Lying_Server_Is_Believed_Or_Holds_The_Client) {
                  send(client, packet.data(), size, 0);
              pause();
          },
-         7, Long_Enough},
+         7},
     };
-    for (const auto& [lie, tell, expected, time_out] : lies) {
+    for (const auto& [lie, tell, expected] : lies) {
         const int listener = posix::Link_Socket(Class, bind);
         ASSERT_TRUE(listen(listener, 1) == 0 && FindWindowExA(Class) != 0);
         server = In_Child([tell = tell, listener] {
             tell(accept4(listener, nullptr, nullptr, 0));
             return true;
         });
-        // More messages than the socket holds.
-        for (int i = 0; i < (expected == Timed_Out ? 400 : 1); ++i)
-            ASSERT_EQ(Reply(i == 0 ? time_out : 0), expected) << lie;
+        EXPECT_EQ(Reply(expected == Timed_Out ? 30 : Long_Enough), expected) << lie;
         // It takes no more clients, and those that wait are not many.
         for (int i = 0; FindWindowExA(Class) != 0; ++i)
             ASSERT_LT(i, 9);
@@ -159,30 +139,16 @@ TEST_F(Transport, Killed_Server_Blocks_The_Next_One_Or_Leaves_A_Connection) {
     EXPECT_EQ(FindWindowExA(Class), 0U);
 }
 
-TEST_F(Transport, Killed_Or_Hostile_Client_Ends_The_Server_Or_Leaves_Something_Behind) {
+TEST_F(Transport, Killed_Client_Ends_The_Server_Or_Leaves_Something_Behind) {
     simulator::Start(Class);
     Start_Server(simulator::Answer_Batch);
     CloseHandle(block);
     EXPECT_EQ(Reply(), 0U) << "no block";
     const std::ptrdiff_t files = Open_Files(server);
-    block = CreateFileMappingA(0x7FFF, "block");
-    EXPECT_EQ(Reply(), 0U) << "a block too short";
-    CloseHandle(block);
-    const auto is_dropped = [](std::size_t size) {
-        const int client = posix::Link_Socket(Class, connect);
-        pollfd end{client, POLLIN, 0};
-        std::array<char, 8> packet{};
-        send(client, packet.data(), size, MSG_NOSIGNAL);
-        return poll(&end, 1, Long_Enough) == 1 && recv(client, packet.data(), size, 0) <= 0;
-    };
-    EXPECT_TRUE(is_dropped(3) && is_dropped(8));
     EXPECT_TRUE(Ended_Well(In_Child([&] { return skerrand::Open_Link(6, result); })));
-    EXPECT_EQ(Reply() + Reply(), 0U);  // by the second one the server has seen the ends
+    EXPECT_EQ(Reply() + Reply(), 0U);  // by the second one the server has seen the end
     EXPECT_EQ(Open_Files(server), files);
     EXPECT_TRUE(std::filesystem::is_empty(scratch.Path()));
-    if (geteuid() != 0) GTEST_SKIP() << "only root can be another user";
-    EXPECT_TRUE(Ended_Well(In_Child(
-        [&] { return seteuid(65534) == 0 && FindWindowExA(Class) == 0 && is_dropped(4); })));
 }
 
 TEST_F(Transport, Program_Flies_Or_Ends_Otherwise_Than_Told) {
