@@ -1,6 +1,5 @@
 // The view, and each layer of the chart by the calls that it draws with, in 400 by 400 pixels.
 
-#include <cmath>
 #include <gtest/gtest.h>
 
 #include "chart/current_chart.h"
@@ -140,12 +139,9 @@ TEST(Airspace_Layer, OneAirspaceDrawsWithThePlaceOfAnother) {
               "arc 158 -41 300 100 200 200 300 100 | dashed 1 255,0,255\n");
 }
 
-/// Eight pixels a degree, so that halves are exact.
-const Chart_Target target{nullptr, 160, 80};
-const Chart_View start{-10, 50, 10, 40, {}, {}, 30};
-
 TEST(View, ProjectionRoundsHalvesAwayFromEven) {
-    chart_view = start;
+    chart_view = {-10, 50, 10, 40, {}, {}, 30};
+    const Chart_Target target{nullptr, 160, 80};  // eight pixels a degree: halves are exact
     EXPECT_EQ(Project(target, 40, 10), (Pixel_Point{160, 80}));
     EXPECT_EQ(Project(target, 49.6875, -9.6875), (Pixel_Point{2, 2}));
     EXPECT_EQ(Project(target, 49.5625, -9.5625), (Pixel_Point{4, 4}));

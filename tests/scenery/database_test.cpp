@@ -61,13 +61,6 @@ TEST(Database, CutFileTakenForWhole) {
         EXPECT_EQ(Parse_Airport_Table(Prefix(whole, length), 3, airports), expected) << length;
         EXPECT_EQ(airports, expected ? Sample() : std::vector<Airport_Info>()) << length;
     }
-    std::vector<std::string> files;
-    const Bytes list = Stored("a", "");
-    for (std::size_t length = 0; length <= list.size(); ++length) {
-        const bool expected = length == 3 || length == 5;
-        EXPECT_EQ(Parse_Airspace_List(Prefix(list, length), 1, files), expected) << length;
-        EXPECT_EQ(files.size(), expected ? 1 : 0) << length;
-    }
 }
 
 TEST(Database, DamageTakenForData) {

@@ -15,10 +15,12 @@ using namespace skerrand;
 
 static std::string progress;
 
-/// Both airports stand amid these airspaces.
+/// Both airports stand amid these airspaces, in a file with another airport.
 static void Search(const std::vector<world::Airspace_Facts>& airspaces) {
     const Scratch_Folder scratch;
-    Scratch_Folder::Put("a.bgl", world::Scenery_File({}, airspaces));
+    Scratch_Folder::Put("a.bgl",
+                        world::Scenery_File(std::vector<world::Airport_Facts>(1), airspaces));
+    airport_table.clear();  // of other tests
     first_run = false;
     database_ready = true;
     for (Airport_Info* airport : {&departure_airport, &destination_airport})
@@ -30,7 +32,7 @@ static void Search(const std::vector<world::Airspace_Facts>& airspaces) {
         progress += std::to_string(done) + '/' + std::to_string(of) + ' ';
     });
     EXPECT_EQ(unread.first + ' ' + progress, "gone.bgl 0/2 1/2 2/2 ");
-    EXPECT_TRUE(airspace_files.empty() && current_airspaces.empty());
+    EXPECT_TRUE(airspace_files.empty() && current_airspaces.empty() && airport_table.empty());
 }
 
 TEST(Airspace_Search, LabelOrDiscWrong) {
@@ -64,19 +66,6 @@ TEST(Airspace_Search, LabelOrDiscWrong) {
     departure_airport = destination_airport = {};
 }
 
-TEST(Geodesy, AngleOutsideItsRange) {
-    EXPECT_DOUBLE_EQ(Arc_Sin(1), 1.5707963267948966);
-    EXPECT_EQ(Arc_Cos(-1), 3.14159265358979);
-    for (const double beyond : {1.5, -1.0000000001}) {
-        EXPECT_EQ(Arc_Sin(beyond), 0);
-        EXPECT_EQ(Arc_Cos(beyond), 0);
-    }
-    EXPECT_EQ(Float_Mod(-1, 6), 5);
-    EXPECT_EQ(Wrap_Degrees(360), 360);
-    EXPECT_EQ(Wrap_Degrees(-1), 359);
-    EXPECT_EQ(Wrap_Degrees(800), 440) << "at most one turn";
-}
-
 TEST(Geodesy, TheSameFunctionsOfAnglesOnEverySystem) {
     struct Case {
         double (*function)(double);
@@ -95,20 +84,20 @@ TEST(Geodesy, TheSameFunctionsOfAnglesOnEverySystem) {
         EXPECT_EQ(it.function(it.of), it.value) << it.of;
 }
 
-TEST(Geodesy, DistancesAndTheirLimits) {
+TEST(Geodesy, DistancesAndCoursesAtTheirLimits) {
+    EXPECT_EQ(Arc_Cos(-1), 3.14159265358979);
+    EXPECT_EQ(Arc_Cos(-1.0000000001) + Arc_Sin(1.5), 0);
     EXPECT_EQ(Distance_NM(0, 0, 90, 0), 5400);
     EXPECT_EQ(Distance_NM(10, 20, -10, -160), 10800);
     EXPECT_EQ(Distance_NM(0, 179, 0, -179), 120);
     EXPECT_EQ(Distance_Feet(0, 0, 0, 1.0 / 60), 6080);
     EXPECT_EQ(Distance_Feet(30.181, -11.141, 30.169, -11.13), 5586);  // 5585 of unrounded miles
     EXPECT_EQ(Distance_Feet(0, 0, 0, 1), 32767);
-}
-
-TEST(Geodesy, CourseOfEqualPointsAndAcrossTheDateLine) {
     magnetic_table.fill(0);
     EXPECT_EQ(Magnetic_Course(10, 10, 10, 10), 360);
     EXPECT_NEAR(Magnetic_Course(0, 0, 0, -1), 270, 1);
     EXPECT_NEAR(Magnetic_Course(0, 179.5, 0, -179.5), 90, 1);
+    EXPECT_EQ(Wrap_Degrees(800), 440) << "at most one turn";
 }
 
 TEST(Geodesy, DestinationsOfZeroAndNegativeDistances) {
@@ -122,10 +111,9 @@ TEST(Geodesy, DestinationsOfZeroAndNegativeDistances) {
 
 TEST(Geodesy, VariationIsTakenFromTheNearestGridPoint) {
     magnetic_table.fill(0);
-    const std::pair<std::size_t, std::int16_t> values[] = {
-        {90, 1821}, {90 + 181 * 359, -3641}, {138 + 181 * 238, 3095}};  // 10, -20 and 17 degrees
-    for (const auto& [place, value] : values)
-        magnetic_table[place] = value;
+    magnetic_table[90] = 1821;               // 10 degrees
+    magnetic_table[90 + 181 * 359] = -3641;  // -20
+    magnetic_table[138 + 181 * 238] = 3095;  // 17
     EXPECT_EQ(True_To_Magnetic(5, 0.5, -0.4), 355);
     EXPECT_EQ(Magnetic_To_True(5, 0.4, -0.6), 345);
     EXPECT_EQ(Magnetic_To_True(350, 47.6, -122.3), 7);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <numbers>
 
+#include "selection/geodesy.h"
 #include "tools/simulator/options.h"
 
 using namespace simulator;
@@ -22,12 +23,9 @@ static Airport_Info Airport(double lat_1, double lon_1, double lat_2, double lon
     return airport;
 }
 
-/// By the haversines, unlike the code.
+/// In metres, by whole feet.
 static double Distance(double lat_1, double lon_1, double lat_2, double lon_2) {
-    const double a = std::sin((lat_2 - lat_1) * Degree / 2),
-                 b = std::sin((lon_2 - lon_1) * Degree / 2);
-    const double h = a * a + std::cos(lat_1 * Degree) * std::cos(lat_2 * Degree) * b * b;
-    return 2 * std::asin(std::sqrt(h)) / Degree * Metres;
+    return skerrand::Distance_Feet(lat_1, lon_1, lat_2, lon_2) * (1852.0 / 6080);
 }
 
 TEST(Flight, Jumps_Or_Points_Elsewhere_Or_Does_Not_Arrive) {

@@ -6,8 +6,6 @@
 
 #include "app/settings.h"
 #include "platform/link.h"
-#include "platform/posix/descriptor.h"
-#include "platform/posix/link_endpoint.h"
 #include "platform/simulator/server.h"
 #include "platform/simulator/simulator.h"
 #include "scenery/database.h"
@@ -90,45 +88,28 @@ TEST_F(Transport, Server_Outlives_The_Process_That_It_Follows) {
     EXPECT_FALSE(simulator::Follow(followed));
 }
 
-TEST_F(Transport, Lying_Server_Is_Believed_Or_Holds_The_Client) {
-    const std::tuple<const char*, void (*)(int client), std::uint32_t> lies[] = {
-        {"closes", [](int) {}, Gone},
-        {"hangs", [](int) { pause(); }, Timed_Out},
-        {"sends rubbish and a late reply ahead",
-         [](int client) {
-             std::array<posix::Link_Reply, 9> packet{};
-             recv(client, packet.data(), sizeof packet[0], 0);
-             const posix::Link_Reply late{packet[0].sequence - 1, 8};
-             send(client, &late, sizeof late, 0);
-             packet.fill({packet[0].sequence, 7});
-             for (const std::size_t size : {sizeof packet, sizeof packet[0] - 1, sizeof packet[0]})
-                 send(client, packet.data(), size, 0);
-             pause();
-         },
-         7},
-    };
-    for (const auto& [lie, tell, expected] : lies) {
-        const int listener = posix::Link_Socket(Class, bind);
-        ASSERT_TRUE(listen(listener, 1) == 0 && FindWindowExA(Class) != 0);
-        server = In_Child([tell = tell, listener] {
-            tell(accept4(listener, nullptr, nullptr, 0));
-            return true;
-        });
-        EXPECT_EQ(Reply(expected == Timed_Out ? 30 : Long_Enough), expected) << lie;
-        // It takes no more clients, and those that wait are not many.
-        for (int i = 0; FindWindowExA(Class) != 0; ++i)
-            ASSERT_LT(i, 9);
-        End_Server();
-        close(listener);
-    }
+TEST_F(Transport, Slow_Server_Holds_The_Client_Or_Its_Late_Reply_Is_Taken) {
+    Start_Server([reply = 6U](auto) mutable {
+        if (++reply != 8) raise(SIGSTOP);
+        return reply;
+    });
+    EXPECT_EQ(Reply(30), Timed_Out);
+    waitpid(server, nullptr, WUNTRACED);
+    kill(server, SIGCONT);
+    EXPECT_EQ(Reply(), 8U);
+    EXPECT_EQ(Reply(30), Timed_Out);
+    // It takes no more clients, and those that wait are not many.
+    for (int i = 0; FindWindowExA(Class) != 0; ++i)
+        ASSERT_LT(i, 20);
 }
 
 TEST_F(Transport, Killed_Server_Blocks_The_Next_One_Or_Leaves_A_Connection) {
     EXPECT_EQ(FindWindowExA(Class), 0U);
     const std::ptrdiff_t files = Open_Files(getpid());
-    Start_Server([](auto) { return 7; });
+    Start_Server([](auto) { return raise(SIGKILL); });
     EXPECT_NE(FindWindowExA(Class), 0U);
     EXPECT_NE(simulator::Open_Window(Class), "") << "two at a time";
+    EXPECT_EQ(Reply(), Gone) << "while it answers";
     End_Server();
     EXPECT_EQ(FindWindowExA(Class), 0U);
     EXPECT_EQ(Open_Files(getpid()), files);
