@@ -5,7 +5,7 @@
 #   crash.sh BIN FOLDER
 # BIN is the folder of the programs, FOLDER is made anew. The status is 77 where strace cannot trace.
 set -u
-export bin=$1 folder=$2 world=$2/world
+export bin=$1 folder=$2 world=$2/world start keys
 
 # What a user does: a start, with setup and scan where they are needed, and a look at the lists; and
 # a new key besides.
@@ -14,7 +14,6 @@ start=$(printf '%s\n' 'advance 3000' "folder Form2.Dir1 $world" 'click Form2.Com
 keys=$(printf '%s\n' "$start" 'pick Form3.Combo1 13' 'pick Form3.Combo2 0' 'click Form3.Command3' \
     'click Form4.kb_assign1' 'pick Form7.List1 2' 'double_click Form7.List1' 'key 49 down' \
     'advance 1' 'click Form8.Command1' 'click Form7.Command1')
-export start keys
 
 # Does a job in the working folder, under strace if options for it follow: strace looks at the own
 # files alone, and stands aside (-D) so that this process becomes the one that their temporary names

@@ -12,8 +12,8 @@
 using Block = std::span<std::uint8_t>;
 
 /// For one file of a program: the link operations of a platform that lives inside the test: each
-/// can be made to fail, a wait only moves a number, and the server is a function over the block, if
-/// nothing else is said that of the stand-in.
+/// can be made to fail, a wait only moves a number, and the server is a function over the block, at
+/// first that of the stand-in.
 struct Fake_Link {
     const char* window_class = "UIPCMAIN";  ///< of the one window that stands
     std::uint16_t message = 0xC0DE, atom = 0xC001;

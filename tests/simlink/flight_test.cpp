@@ -63,7 +63,7 @@ TEST(Flight, Jumps_Or_Points_Elsewhere_Or_Does_Not_Arrive) {
         const auto& runway = destination.runways[0];
         EXPECT_LT(std::min(Distance(before.lat, before.lon, runway.lat_1, runway.lon_1),
                            Distance(before.lat, before.lon, runway.lat_2, runway.lon_2)),
-                  1);
+                  0.5);
     }
     EXPECT_NEAR(Aircraft_At(Plan_Flight(home, nullptr), 3600).lat, 42.65, 0.1) << "straight on";
 }

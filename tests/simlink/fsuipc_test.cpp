@@ -134,7 +134,7 @@ TEST_F(Open_Batch, LimitIsOffByAByteOrRequestOutOfPlace) {
     EXPECT_TRUE(Queue_Read(0, 32512 - 4 - 16, bytes.data(), result));
     fake.server = [](Block block) { block[16 + 32491] = 6; };
     EXPECT_TRUE(Process_Queue(result));
-    EXPECT_EQ(bytes[32491] * 10 + bytes[32492], 65);
+    EXPECT_EQ(bytes[0] + bytes[32491] * 10 + bytes[32492], 0 + 60 + 5);
 }
 
 TEST_F(Open_Batch, SpoiltBlockIsTakenOnTrust) {
