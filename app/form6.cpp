@@ -46,7 +46,6 @@ constexpr Control controls[] = {
                 "The authors of GoogleTest and Google Benchmark\r\n"
                 "The Debian Project\r\n"
                 "Robin A. Peel and contributors, for their airports",
-     .read_only = true,
      .multi_line = true},
     {.name = "Label5",
      .kind = Label,

@@ -21,7 +21,7 @@ enum class Control_Kind : std::uint8_t {
     Frame,
     Label,
     Button,
-    Text,
+    Text,  ///< a box with a text only to be read
     Combo,
     List,
     Check,
@@ -74,8 +74,7 @@ struct Control {
     /// What a screen reader calls the control where neither its own caption nor the one ahead of it
     /// tells that (see `Spoken_Name`).
     const char* spoken = "";
-    bool read_only = false;    ///< text box: the user cannot type in it
-    bool multi_line = false;   ///< text box: several lines, only to be read, with a scroll bar
+    bool multi_line = false;   ///< text box: several lines, with a scroll bar
     bool centred = false;      ///< text box: the text is centred
     bool sorted = false;       ///< combo, list: entries are kept in the order of their bytes
     bool transparent = false;  ///< label: the background shows through

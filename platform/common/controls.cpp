@@ -80,11 +80,11 @@ bool Shows_Hint(const Live_Control& combo) {
     return combo.selected < 0 && combo.text == combo.row->caption;
 }
 
-void Take_Typed(Live_Control& box, std::string text) {
-    box.text = std::move(text);
-    box.selected = -1;
-    if (Kind_Of(box) == Control_Kind::Combo) box.matches = Matches(box.entries, box.text);
-    Fire(box);
+void Take_Typed(Live_Control& combo, std::string text) {
+    combo.text = std::move(text);
+    combo.selected = -1;
+    combo.matches = Matches(combo.entries, combo.text);
+    Fire(combo);
 }
 
 void Take_Click(Live_Control& control) {

@@ -51,10 +51,10 @@ struct Live_Control {
     /// others: a key press lasts 50 ms and more.
     int Real_Interval() const { return interval < 5 ? 20 : interval; }
     /// A timer was started or stopped, or has a new interval, which begins now.
-    virtual void Fit_Timer() {}
+    virtual void Fit_Timer() = 0;
     /// Goes to a folder by a path of the program; false, changing nothing, if there is none or if
     /// it is the same.
-    virtual bool Go_To(std::string_view) { return false; }
+    virtual bool Go_To(std::string_view) = 0;
 };
 
 struct Pixels {
@@ -143,9 +143,9 @@ std::vector<std::size_t> Matches(const std::vector<std::string>& entries, std::s
 /// user puts the cursor, so that typing replaces it.
 bool Shows_Hint(const Live_Control& combo);
 
-/// The user has changed the text of a text or combo box; in a combo box nothing is picked then, and
-/// the text looks for its matches.
-void Take_Typed(Live_Control& box, std::string text);
+/// The user has changed the text of a combo box: nothing is picked then, and the text looks for its
+/// matches.
+void Take_Typed(Live_Control& combo, std::string text);
 
 /// The user has clicked a button, check box, option button or menu entry.
 void Take_Click(Live_Control& control);

@@ -94,7 +94,7 @@ constexpr Control_Property control_properties[] = {
     {"index", Listing, [](const Target& t) { return Value(t.State().selected); }},
     {"count", Listing, [](const Target& t) { return Value(Entry_Count(t.Ref())); }},
     {"interval", Of({Timer}), [](const Target& t) { return Value(t.State().interval); }},
-    {"read_only", Of({Text}), [](const Target& t) { return Value(t.Row().read_only); }},
+    {"read_only", Of({Text}), [](const Target&) { return Value(true); }},
     {"colour", Of({Label}), [](const Target& t) { return Colour_Text(t.Row().colour); }},
     {"transparent", Of({Label}), [](const Target& t) { return Value(t.State().transparent); }},
     {"bold", With_Font, [](const Target& t) { return Value(t.Row().font.bold); }},

@@ -17,9 +17,8 @@ struct Native_Kind {
 };
 
 Native_Kind Text_Kind(const Control& row) {
-    DWORD style = WS_TABSTOP;
+    DWORD style = WS_TABSTOP | ES_READONLY;
     style |= row.multi_line ? ES_MULTILINE | WS_VSCROLL : ES_AUTOHSCROLL;
-    if (row.read_only) style |= ES_READONLY;
     if (row.centred) style |= ES_CENTER;
     return {L"EDIT", style, WS_EX_CLIENTEDGE};
 }

@@ -104,10 +104,6 @@ void Take_Notice(Live_Control& control, WORD notice) {
         Take_Pick(control, static_cast<int>(SendMessageW(control.handle, question, 0, 0)));
     };
     switch (Kind_Of(control)) {
-        case Control_Kind::Text:
-            if (notice == EN_CHANGE && !control.is_setting)
-                Take_Typed(control, Window_Text(control.handle));
-            break;
         case Control_Kind::Combo:
             if (notice == CBN_EDITCHANGE && !control.is_setting) Narrow_Combo(control);
             break;

@@ -78,7 +78,7 @@ inline constexpr Control second_controls[] = {
     {"Option2", Option, "Frame1", {120, 1200, 1200, 255}},
     {.name = "Button2", .kind = Button, .at = {900, 2600, 600, 300}, .tab_index = 0},
     {"Dir1", Folder, "Frame1", {0, 200, 1500, 900}, "", Count<&Counts::moves>},
-    {.name = "Text1", .kind = Text, .in = "Frame1", .at = {1500, 200, 900, 285}, .read_only = true},
+    {.name = "Text1", .kind = Text, .in = "Frame1", .at = {1500, 200, 900, 285}},
     {.name = "Button1",
      .kind = Button,
      .at = {0, 2600, 600, 300},

@@ -83,14 +83,10 @@ QWidget* New_Option(QWidget* holder) {
     return button;
 }
 
-QWidget* New_Line(Live_Control& control, QWidget* holder) {
+QWidget* New_Line(const Control& row, QWidget* holder) {
     auto* line = new QLineEdit(holder);
-    line->setReadOnly(control.row->read_only);
-    if (control.row->centred) line->setAlignment(Qt::AlignCenter);
-    line->setValidator(new Code_Page_Validator(line));
-    QObject::connect(line, &QLineEdit::textEdited, holder, [&control](const QString& typed) {
-        Take_Typed(control, From_Qt_Lossy(typed));
-    });
+    line->setReadOnly(true);
+    if (row.centred) line->setAlignment(Qt::AlignCenter);
     return line;
 }
 
@@ -127,7 +123,7 @@ QWidget* New_Widget(Live_Control& control, QWidget* holder) {
         case Control_Kind::Button:
             return New_Button(holder);
         case Control_Kind::Text:
-            return row.multi_line ? New_Lines(holder) : New_Line(control, holder);
+            return row.multi_line ? New_Lines(holder) : New_Line(row, holder);
         case Control_Kind::Combo:
             return new Entry_Combo(control, holder);
         case Control_Kind::List:
