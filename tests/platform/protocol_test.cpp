@@ -136,6 +136,7 @@ TEST_F(Protocol, A_Call_Is_Changed_Or_Drawn_As_Another_Shape) {
     LineTo(device, 7, -3);
     Set_Fill_Style(device, Fill_Style::Solid);
     Rectangle(device, 30, 20, 10, 10);
+    Ellipse(device, 60, 40, 20, 10);
     Arc(device, 0, 0, 100, 50, 200, 25, 50, 0);   // a quarter, from the right to the top
     Arc(device, 0, 0, 100, 50, 50, 0, 200, 25);   // the other three
     Arc(device, 0, 0, 100, 50, 80, 35, 110, 45);  // one radial through both points
@@ -149,7 +150,8 @@ TEST_F(Protocol, A_Call_Is_Changed_Or_Drawn_As_Another_Shape) {
          {"\nrectangle 30 20 10 10 | dashed 1 0,0,0 | solid 0,0,0\n",
           "\narc 5 5 5 50 0 0 9 9 | dashed 2 0,0,0\ntext 4 5 <\u00E9&\x01> | 0,0,0\nok\n",
           "<line x1=\"0\" y1=\"0\" x2=\"7\" y2=\"-3\" stroke=\"rgb(0,0,0)\" stroke-dasharray=",
-          "<rect x=\"10\" y=\"10\" width=\"20\" height=\"10\"", " fill=\"rgb(0,0,0)\"/>",
+          "<rect x=\"10\" y=\"10\" width=\"20\" height=\"10\"", " fill=\"rgb(0,0,0)\"/>\n",
+          "<ellipse cx=\"40\" cy=\"25\" rx=\"20\" ry=\"15\"", " fill=\"rgb(0,0,0)\"/>\n<path",
           "d=\"M 100 25 A 50 25 0 0 0 50 0\"", "d=\"M 50 0 A 50 25 0 1 0 100 25\"",
           "<ellipse cx=\"50\" cy=\"25\" rx=\"50\" ry=\"25\"",
           "<ellipse cx=\"5\" cy=\"27.5\" rx=\"0\" ry=\"22.5\" stroke=\"rgb(0,0,0)\" "
@@ -157,7 +159,7 @@ TEST_F(Protocol, A_Call_Is_Changed_Or_Drawn_As_Another_Shape) {
           ">&lt;\u00E9&amp; &gt;</text>"}) {
         EXPECT_NE((Execute("picture Form9") + svg).find(element), std::string::npos) << element;
     }
-    EXPECT_EQ(std::count(svg.begin(), svg.end(), '\n'), 12);
+    EXPECT_EQ(std::count(svg.begin(), svg.end(), '\n'), 13);
 }
 
 TEST(Folder_List, Path_Is_Not_Whole_Or_Ends_With_A_Separator) {
