@@ -152,16 +152,6 @@ constexpr std::pair<std::string_view, void (*)(Bytes)> readers[] = {
 };
 void (*reader)(Bytes) = nullptr;
 
-constexpr std::string_view areas =
-    "[Area.001]\r\nTitle=T\r\nTexture_ID=1\r\nLocal=Scenery\r\nRemote=\r\nActive=TRUE\r\n"
-    "[Area.2]\nLocal=\\\\net\\share\nRequired=\n[Area.001]\n[Area.2]\r\rlocal=c:/fs\r[[Area.2[] \r"
-    "Title=[Area.3]\r[Area.3] x\rLocal= / \r[Area.3]]\r";
-
-/// The start of a file of that length whose grid's section stands at that place.
-Bytes Magdec(std::int64_t length, std::int64_t section) {
-    return Join({Prefix(Longs({length / 2}), 2), Bytes(110), Longs({section})});
-}
-
 void Write_Samples(const std::string& folder) {
     const world::Airport_Facts airport{
         "LXGB",
@@ -187,9 +177,11 @@ void Write_Samples(const std::string& folder) {
         Join({{1, 0}, {8, 0, 4, 25, 0, 3, 36, 0, 1}}),
         Join({{5, 0}, {9, 0, 0x7F, 10, 0, 1}}),
         scenery,
-        Text(areas),
-        Magdec(130442, 114),
-        Magdec(130442, 115),
+        Text("[Area.001]\r\nTitle=T\r\nTexture_ID=1\r\nLocal=Scenery\r\nRemote=\r\nActive=TRUE\r\n"
+             "[Area.2]\nLocal=\\\\net\\share\nRequired=\n[Area.001]\n[Area.2]\r\rlocal=c:/fs\r"
+             "[[Area.2[] \rTitle=[Area.3]\r[Area.3] x\rLocal= / \r[Area.3]]\r"),
+        Join({{0xC5, 0xFE}, Bytes(110), Longs({114})}),  // a grid that ends with its file
+        Join({{0xC5, 0xFE}, Bytes(110), Longs({115})}),  // and one that ends behind it
     };
     for (std::size_t i = 0; i < std::size(samples); ++i)
         platform::Write_File(folder + "/built_" + std::to_string(i), samples[i]);
