@@ -1,78 +1,108 @@
 #pragma once
 
 #include <algorithm>
-#include <benchmark/benchmark.h>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <map>
 #include <string>
 #include <vector>
 
-/// What all benchmarks share: each is measured beside a yardstick in the same run, and tells both
-/// by counters.
+#ifndef _WIN32
+#include <benchmark/benchmark.h>
+#endif
+
+/// What all benchmarks share: each is measured beside a yardstick in the same run.
 namespace bench {
 
+constexpr clockid_t Wall = CLOCK_MONOTONIC;
 /// What other programs do at the same time must not count, so work that no disk and no other
 /// process has a part in is measured by the processor's time. On Windows that comes in steps longer
 /// than such work.
-enum class Clock : clockid_t {
 #ifdef _WIN32
-    Processor = CLOCK_MONOTONIC,
+constexpr clockid_t Processor = Wall;
 #else
-    Processor = CLOCK_PROCESS_CPUTIME_ID,
+constexpr clockid_t Processor = CLOCK_PROCESS_CPUTIME_ID;
 #endif
-    Wall = CLOCK_MONOTONIC,
-};
 
-inline double Now(Clock clock) {
+/// Seconds.
+inline double Now(clockid_t clock) {
     timespec time{};
-    clock_gettime(static_cast<clockid_t>(clock), &time);
+    clock_gettime(clock, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// Seconds.
 template <typename Work>
-double Time_Of(Clock clock, Work work) {
+double Time_Of(clockid_t clock, Work work) {
     const double start = Now(clock);
     work();
     return Now(clock) - start;
 }
 
-inline double Median(std::vector<double> values) {
-    const auto middle = values.begin() + std::ssize(values) / 2;
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
+#ifndef _WIN32
+/// Tells of the machine once.
+class Reporter final : public benchmark::ConsoleReporter {
+  public:
+    Reporter() : ConsoleReporter(OO_Tabular) {}
 
-/// Times `work` in each iteration, with `prepare` ahead of it and the yardstick behind it, so that
-/// a change of the machine's mood meets both. Counters, of medians: `median` and `yardstick` in
-/// seconds, `ratio` between them, and of a limit in seconds (0: none) the part that was `used`;
-/// besides them the `least` time, which other programs stretch the least.
+  private:
+    bool ReportContext(const Context& context) override {
+        static const bool told = ConsoleReporter::ReportContext(context);
+        return told;
+    }
+};
+#endif
+
+/// Times `work` in each round, with `prepare` ahead of it and the yardstick behind it, so that a
+/// change of the machine's mood meets both. Told are the medians of both in milliseconds and the
+/// ratio between them, the least time, which other programs stretch the least, and how many per
+/// cent of a limit in seconds the median takes.
 template <typename Prepare, typename Work, typename Yardstick>
-void Measure(benchmark::State& state, Clock clock, double limit, Prepare prepare, Work work,
-             Yardstick yardstick) {
+void Measure(const std::string& name, int rounds, clockid_t clock, double limit, Prepare prepare,
+             Work work, Yardstick yardstick) {
     std::vector<double> times;
     std::vector<double> standards;
-    for (auto _ : state) {
+    const auto once = [&] {
         prepare();
         times.push_back(Time_Of(clock, work));
-        state.SetIterationTime(times.back());
         standards.push_back(Time_Of(clock, yardstick));
-    }
-    state.counters["median"] = Median(times);
-    state.counters["least"] = std::ranges::min(times);
-    state.counters["yardstick"] = Median(standards);
-    state.counters["ratio"] = Median(times) / Median(standards);
-    if (limit > 0) state.counters["used"] = Median(times) / limit;
-}
-
-/// Registers a benchmark that calls `Measure`.
-inline benchmark::internal::Benchmark* Add(const char* name, int iterations,
-                                           void (*function)(benchmark::State&)) {
-    return benchmark::RegisterBenchmark(name, function)
+    };
+    const auto figures = [&] {
+        std::ranges::sort(times);
+        std::ranges::sort(standards);
+        const double median = times[times.size() / 2];
+        const double standard = standards[standards.size() / 2];
+        return std::map<std::string, double>{{"least", times[0] * 1e3},
+                                             {"median", median * 1e3},
+                                             {"ratio", median / standard},
+                                             {"used", median / limit * 100},
+                                             {"yardstick", standard * 1e3}};
+    };
+#ifdef _WIN32  // where Debian has no benchmark library for
+    for (int i = 0; i < rounds; ++i)
+        once();
+    std::printf("%-24s", name.c_str());
+    for (const auto& [counter, value] : figures())
+        std::printf(" %s=%.5g", counter.c_str(), value);
+    std::puts("");
+    std::fflush(stdout);
+#else
+    static Reporter reporter;
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [&](benchmark::State& state) {
+                                     for (auto _ : state) {
+                                         once();
+                                         state.SetIterationTime(times.back());
+                                     }
+                                     for (const auto& [counter, value] : figures())
+                                         state.counters[counter] = value;
+                                 })
         ->UseManualTime()
         ->Unit(benchmark::kMillisecond)
-        ->Iterations(iterations);
+        ->Iterations(rounds);
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::ClearRegisteredBenchmarks();
+#endif
 }
 
 /// Ends the process.
