@@ -40,11 +40,8 @@ inline long long Clock() {
 
 /// The user's doings. What is disabled takes none of them. They have had their effect, and every
 /// handler that they call has returned, when the operation returns.
-void Click(platform::Control_Ref control);  ///< also of a menu entry
-enum Spot { On_Selection, Below_Entries };
-void Double_Click(platform::Control_Ref list, Spot spot = On_Selection);
-/// Goes into a subfolder, by its place among them.
-void Enter_Folder(platform::Control_Ref folder_list, int index);
+void Click(platform::Control_Ref control);      ///< also of a menu entry
+void Double_Click(platform::Control_Ref list);  ///< on its selected entry
 void Pick(platform::Control_Ref list_or_combo, int index);
 void Type(platform::Control_Ref combo, const std::string& text);
 void Press(const platform::Window& window, platform::Mouse_Button button, int x, int y);
@@ -57,13 +54,26 @@ void Do(Deed deed, const platform::Window& window);
 /// A key goes down or up, whichever program has the focus; of a letter, by its virtual-key code.
 void Key(int code, bool down);
 
+/// A message box is answered by itself; where time passes meanwhile, after 300 ms.
+struct Message {
+    platform::Icon icon;
+    std::string title;
+    std::string text;
+    bool topmost;  ///< where there is a screen; false elsewhere
+
+    friend bool operator==(const Message&, const Message&) = default;
+};
+
+/// The messages shown since the start or the last call.
+std::vector<Message> Take_Messages();
+
+/// Whether there is a screen, with a focus that keys go to and places of windows by their frame.
+/// Without one there is nothing of what stands below, and timers go by no real time.
+extern const bool has_screen;
+
 /// Where the outer frame begins, in pixels of the screen, and whether it stays above all others.
 using Frame = std::tuple<int, int, bool>;
 Frame Frame_Of(const platform::Window& window);
-
-/// Whether there is a screen, with a focus that keys go to and places of windows by their frame.
-/// Without one nobody asks for what stands below, and timers go by no real time.
-extern const bool has_screen;
 
 /// Presses a key in the window, as if it were the active one.
 enum Stroke { Tab, Enter, Escape, Space, Down };
@@ -82,18 +92,5 @@ platform::Colour Pixel(const platform::Window& window, int x, int y);
 /// Nothing where that cannot be asked for.
 using Spoken = std::pair<std::string, bool>;
 std::optional<Spoken> Spoken_Of(platform::Control_Ref control);
-
-/// A message box is answered by itself; where time passes meanwhile, after 300 ms.
-struct Message {
-    platform::Icon icon;
-    std::string title;
-    std::string text;
-    bool topmost;  ///< where there is a screen; false elsewhere
-
-    friend bool operator==(const Message&, const Message&) = default;
-};
-
-/// The messages shown since the start or the last call.
-std::vector<Message> Take_Messages();
 
 }  // namespace driver

@@ -85,20 +85,11 @@ void Click(Control_Ref control) {
     QTest::mouseClick(part != nullptr ? part : widget, Qt::LeftButton, {}, QPoint(8, 8));
 }
 
-void Double_Click(QListView& view, QPoint place) {
+void Double_Click(Control_Ref list) {
+    const auto& view = static_cast<QListView&>(*desktop::Find_Live(list)->widget);
+    const QPoint place = Place_Of_Entry(view, view.currentIndex().row());
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
-}
-
-void Double_Click(Control_Ref list, Spot spot) {
-    auto& view = static_cast<QListView&>(*desktop::Find_Live(list)->widget);
-    Double_Click(view, spot == On_Selection ? Place_Of_Entry(view, view.currentIndex().row())
-                                            : view.viewport()->rect().bottomLeft() - QPoint(-5, 5));
-}
-
-void Enter_Folder(Control_Ref folder_list, int index) {
-    auto* view = desktop::Find_Live(folder_list)->widget->findChild<QListView*>();
-    Double_Click(*view, Place_Of_Entry(*view, index + 1));  // ".." comes first
 }
 
 void Pick(Control_Ref list_or_combo, int index) {

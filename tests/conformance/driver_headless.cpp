@@ -1,5 +1,3 @@
-#include <filesystem>
-
 #include "platform/code_page.h"
 #include "platform/headless/form.h"
 #include "platform/headless/program.h"
@@ -40,13 +38,8 @@ void Click(Control_Ref control) {
     Do("click", Name(control));
 }
 
-void Double_Click(Control_Ref list, Spot) {
+void Double_Click(Control_Ref list) {
     Do("double_click", Name(list));
-}
-
-void Enter_Folder(Control_Ref folder_list, int index) {
-    const std::filesystem::directory_iterator names(Folder_Path(folder_list));
-    Do("folder", Name(folder_list) + " " + std::next(names, index)->path().string());
 }
 
 void Pick(Control_Ref list_or_combo, int index) {
@@ -79,28 +72,11 @@ void Key(int code, bool down) {
     Do("key", std::to_string(code) + (down ? " down" : " up"));
 }
 
-void Press_Key(const Window&, Stroke) {}
-
-void Type_Keys(const Window&, const std::string&) {}
-
-std::string Focus(const Window&) {
-    return {};
-}
-
-Frame Frame_Of(const Window& window) {
-    const headless::Form* form = headless::Find_Form(window);
-    return {form->left, form->top, form->is_topmost};
-}
-
 std::vector<Message> Take_Messages() {
     std::vector<Message> messages;
     for (const auto& shown : headless::Take_Messages())
         messages.push_back({shown.icon, shown.title, shown.text, false});
     return messages;
-}
-
-Colour Pixel(const Window&, int, int) {
-    return {};
 }
 
 }  // namespace driver

@@ -120,17 +120,8 @@ void Click(Control_Ref control) {
     Press_At(window, place.left + 8, place.top + 8);
 }
 
-void Double_Click(Control_Ref list, Spot spot) {
-    const HWND handle = windows::Find_Live(list)->handle;
-    if (spot == On_Selection) return Click_Entry(handle, Selected_Index(list), 2);
-    RECT box;
-    GetClientRect(handle, &box);
-    Press_At(handle, box.left + 5, box.bottom - 5, 2);
-}
-
-void Enter_Folder(Control_Ref folder_list, int index) {
-    Click_Entry(windows::Find_Live(folder_list)->handle, index + 1, 2);  // below ".."
-    Advance(500);
+void Double_Click(Control_Ref list) {
+    Click_Entry(windows::Find_Live(list)->handle, Selected_Index(list), 2);
 }
 
 void Pick(Control_Ref list_or_combo, int index) {
@@ -205,29 +196,11 @@ std::string Focus(const Window& window) {
     return "";
 }
 
-// Wine keeps no annotations: what it tells is the text of a native window, or of the label ahead of
-// a text box; a role it has for text boxes alone.
+// Wine keeps no annotations, so this is what the system tells without one: the window's text.
 std::optional<Spoken> Spoken_Of(Control_Ref control) {
     const Live_Control& live = *windows::Find_Live(control);
-    const Control_Kind kind = live.row->kind;
-    const bool is_annotated = *live.row->caption != '\0' && *live.row->spoken != '\0';
-    if (live.handle == nullptr || is_annotated || kind == Control_Kind::Combo ||
-        kind == Control_Kind::Drive)
-        return {};
-    IAccessible* told = nullptr;
-    BSTR name = nullptr;
-    VARIANT role, self;
-    self.vt = VT_I4;
-    self.lVal = CHILDID_SELF;
-    AccessibleObjectFromWindow(live.handle, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
-                               reinterpret_cast<void**>(&told));
-    told->get_accName(self, &name);
-    told->get_accRole(self, &role);
-    told->Release();
-    std::string text = windows::From_Wide_Lossy(name != nullptr ? name : L"");
-    SysFreeString(name);
-    if (kind == Control_Kind::Text && text.ends_with(':')) text.pop_back();
-    return Spoken{text, kind != Control_Kind::Text || role.lVal == ROLE_SYSTEM_TEXT};
+    if (live.caption.empty() || live.handle == nullptr || *live.row->spoken != '\0') return {};
+    return Spoken{Text_In(live.handle), true};
 }
 
 Frame Frame_Of(const Window& window) {

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include "platform/controls.h"
-#include "platform/window.h"
+#include "platform/timers.h"
+#include "tests/conformance/driver.h"
 
 /// The windows that the conformance test runs its small programs on, and what their handlers have
 /// counted.
@@ -99,11 +102,31 @@ consteval Control_Ref Second(std::string_view name) {
     return Find_Control(Second_Window, name);
 }
 
+inline constexpr auto Fast = Main("Fast"), Slow = Main("Slow"), Check1 = Main("Check1"),
+                      Combo1 = Main("Combo1"), List1 = Main("List1"), Option1 = Main("Option1"),
+                      Option2 = Main("Option2"), Dir1 = Second("Dir1");
+
 /// What a small program starts with: the main window, everything counted from 0.
 inline void Show_Main() {
     counts = {};
     on_fast_tick = nullptr;
     Show(Main_Window);
+}
+
+class Conformance : public testing::Test {
+  protected:
+    void SetUp() override { driver::Start(Show_Main); }
+};
+
+/// Of the frame.
+inline std::pair<double, double> Pixels(const Window& window) {
+    const Size outer = Outer_Size(window);
+    return {Twips_To_Pixels_X(outer.width), Twips_To_Pixels_Y(outer.height)};
+}
+
+inline void Tick_Every(int milliseconds, Control_Ref timer) {
+    Set_Interval(timer, milliseconds);
+    Start_Timer(timer);
 }
 
 // A program may set a text from inside the news of its change; that is a change of its own.
