@@ -78,13 +78,6 @@ bool Was_Quit() {
     return quit;
 }
 
-std::vector<std::string_view> Verbs() {
-    std::vector<std::string_view> verbs;
-    for (const Command& command : All_Commands())
-        verbs.push_back(command.verb);
-    return verbs;
-}
-
 void Add_Line(Reply& reply, std::string_view text) {
     Add_Fields(reply, {text});
 }

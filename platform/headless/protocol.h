@@ -20,9 +20,6 @@ std::string Execute(std::string_view line);
 /// Whether the last command was `quit`.
 bool Was_Quit();
 
-/// The first words of all commands.
-std::vector<std::string_view> Verbs();
-
 /// The answer to a command while it is put together.
 struct Reply {
     std::string lines;    ///< UTF-8, escaped, each with its line feed

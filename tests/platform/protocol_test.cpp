@@ -1,8 +1,6 @@
 #include "platform/headless/protocol.h"
 
 #include <gtest/gtest.h>
-#include <regex>
-#include <set>
 #include <sstream>
 
 #include "platform/controls.h"
@@ -10,8 +8,6 @@
 #include "platform/headless/program.h"
 #include "platform/link.h"
 #include "platform/message_box.h"
-#include "platform/program.h"
-#include "platform/simulator/simulator.h"
 #include "tests/platform/scratch_folder.h"
 
 using namespace platform;
@@ -23,8 +19,6 @@ static void Click() {
 }
 
 constexpr Control controls[] = {
-    {.name = "File1", .kind = Menu, .caption = "File"},
-    {.name = "Quit1", .kind = Menu, .in = "File1", .handler = End_Program},
     {.name = "Frame1", .kind = Frame, .at = {1500, 0, 1500, 1500}, .caption = "ok"},
     {.name = "Check1", .kind = Check, .in = "Frame1", .at = {0, 300, 900, 300}},
     {.name = "Label1", .kind = Label, .caption = "error here", .font = {"", 18, true}},
@@ -84,47 +78,28 @@ TEST_F(Protocol, A_Bad_Command_Is_No_Error_Or_Changes_Something) {
     Expect({"clock = 0", "get Form9.Combo1.index = -1", "get Form9.width = 209",
             "simulator get 0 1 = 00", "simulator set 65535 Fe =", "simulator get 0xffff 1 = fe",
             "messages =", "printer ready =", "get Form9.client_width = 201",
-            "get Form9.client_height = 200", "get Form9.height = 246", "get Form9.left = 64",
+            "get Form9.client_height = 200", "get Form9.height = 227", "get Form9.left = 64",
             "get Form9.Label1.font_size = 18", "get Form9.Label1.bold = yes",
-            "get Form9.Button1.font_size = 8.25", "get Form9.Timer1.enabled = yes"});
-}
-
-TEST_F(Protocol, A_Verb_Is_Undocumented_Or_A_Documented_One_Unknown) {
-    std::ifstream document(SKERRAND_DOCS "/headless.md");
-    const std::regex command("`(\\w+)[^`]*`");
-    std::set<std::string> described;
-    bool in_table = false;
-    for (std::string line; std::getline(document, line);) {
-        in_table = line.starts_with("| Command |") || (in_table && line.starts_with('|'));
-        const std::string cell = in_table ? line.substr(0, line.find(" | ")) : "";
-        for (std::sregex_iterator i(cell.begin(), cell.end(), command), end; i != end; ++i)
-            described.insert((*i)[1]);
-    }
-    const auto verbs = headless::Verbs();
-    EXPECT_EQ(described, std::set<std::string>(verbs.begin(), verbs.end()));
+            "get Form9.Button1.font_size = 8.25", "get Form9.Timer1.enabled = yes",
+            "type Form9.Combo1  a  \u00E9  =", "get Form9.Combo1.text =  a  \u00E9 "});
 }
 
 TEST_F(Protocol, What_Is_Disabled_Takes_Input_Or_A_Minimised_Window_Does_Not) {
     Set_Enabled(Find_Control(Sample, "Frame1"), false);
     Set_Enabled(Find_Control(Sample, "Combo1"), false);
     Show(Small);
-    Expect({"click Form9.Check1 = error disabled", "pick Form9.Combo1 1 = error disabled",
-            "type Form9.Combo1 x = error disabled",
+    Expect({"controls Form7 =", "click Form9.Check1 = error disabled",
+            "pick Form9.Combo1 1 = error disabled", "type Form9.Combo1 x = error disabled",
             "minimise Form7 = error this window cannot be minimised",
             "resize Form7 99 99 = error this window cannot be resized", "minimise Form9 =",
             "resize Form9 300 300 = error this window cannot be resized", "click Form9.Button1 ="});
     Set_Enabled(Sample, false);
     Expect({"click Form9.Button1 = error disabled", "restore Form9 = error disabled",
             "close Form9 = error disabled"});
-    Set_Enabled(Find_Control(Sample, "Combo1"), true);
-    Set_Enabled(Sample, true);
-    SetWindowPos(Sample, Insert_After::HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    Expect({"type Form9.Combo1  a  \u00E9  =", "get Form9.Combo1.text =  a  \u00E9 ",
-            "get Form9.topmost = yes", "untop Form9 =", "get Form9.topmost = no"});
 }
 
 TEST_F(Protocol, After_The_End_More_Than_The_Looks_Back_Answers) {
-    Expect({"click Form9.Quit1 =", "running = no", "messages =", "pages = 0",
+    Expect({"close Form9 =", "running = no", "messages =", "pages = 0",
             "clock = error the program has ended", "quit ="});
     EXPECT_TRUE(headless::Was_Quit());
 }
@@ -206,18 +181,4 @@ TEST(Timers, Ticks_Come_Out_Of_Order_Or_Twice_After_A_Wait_Of_The_Program) {
               "c20 b20 a30 c40 b40 c60 a60 b60 at 60\n"
               "c80 b80 a90 at 165\n"
               "c165 b165 a165 c185 b185 at 185\n");
-}
-
-TEST(Simulator, StateAreaIsReadOrWrittenOutsideOrOutOfPlace) {
-    simulator::Start("UIPCMAIN");
-    simulator::Put(0xFFFF, 7, 1);
-    simulator::Put(0, 5, 1);
-    for (const auto& [offset, before, after] : std::initializer_list<std::array<std::uint32_t, 3>>{
-             {0xFFFF, 7, 0}, {0x10000, 0, 0}, {0xFFFFFFFF, 0, 0}, {0x3309, 0xFADE00, 0xFADE00}}) {
-        // A read, a write of zeros, the read again.
-        std::uint32_t batch[] = {1, offset, 4, 0, 9, 2, offset, 4, 0, 1, offset, 4, 0, 9, 0};
-        auto* const block = reinterpret_cast<std::uint8_t*>(batch);
-        EXPECT_EQ(simulator::Answer_Batch({block, sizeof batch}), 1U);
-        EXPECT_EQ(std::pair(batch[4], batch[13]), std::pair(before, after)) << offset;
-    }
 }
