@@ -146,7 +146,7 @@ TEST_F(Conformance, Typing_Replaces_The_Hint_And_Return_Takes_The_Only_Match_Alo
     expect_taken(true, "x", -1, "x");
 }
 
-TEST_F(Conformance, Keys_Lead_Into_A_Folder_Unless_It_Cannot_Be_Named) {
+TEST_F(Conformance, Keys_Lead_Into_A_Folder_And_The_Root_And_Not_Where_No_Name_Leads) {
     Show(Second_Window);
     const auto folder = std::filesystem::absolute("conformance_folders");
     for (const auto* name : {u8"\u0416", u8"alpha", u8"Beta 1", u8"beta 2"})
@@ -166,6 +166,10 @@ TEST_F(Conformance, Keys_Lead_Into_A_Folder_Unless_It_Cannot_Be_Named) {
     driver::Press_Key(Second_Window, driver::Enter);
     EXPECT_TRUE(Folder_Path(Dir1).ends_with("beta 2")) << Folder_Path(Dir1);
     EXPECT_EQ(counts.moves, 1);
+    Set_Folder_Path(Dir1, "/");
+    const std::string first = Folder_Path(Dir1) + Entry_Text(Dir1, 0);
+    driver::Press_Key(Second_Window, driver::Enter);
+    EXPECT_EQ(Folder_Path(Dir1), first);
     std::filesystem::remove_all(folder);
 }
 

@@ -1,5 +1,6 @@
 // The measures of the windows' tables were made for one font; whatever stands in for it has to fit.
 
+#include <QTest>
 #include <QtWidgets>
 #include <gtest/gtest.h>
 
@@ -8,6 +9,7 @@
 #include "platform/desktop/windows/window_widget.h"
 #include "platform/message_box.h"
 #include "tests/conformance/all_windows.h"
+#include "tests/conformance/windows.h"
 
 using namespace skerrand;
 
@@ -81,19 +83,6 @@ TEST(Windows, A_Screen_At_Twice_The_Size_Must_Not_Halve_A_Text_A_Pen_Or_A_Press)
     Expect_Fits(*window.controls[0].widget, "a condensed caption");
 }
 
-TEST(Folders, The_First_Folder_Of_The_Root_Must_Open_And_Be_Told_And_Named) {
-    platform::desktop::Folder_List list(nullptr);
-    list.Go_To("/");
-    bool told = false;
-    list.moved = [&told] { told = true; };
-    const std::string first = "/" + list.Subfolders().at(0);
-    auto* rows = list.findChild<QListWidget*>();
-    emit rows->itemActivated(rows->item(0));
-    EXPECT_TRUE(told);
-    EXPECT_EQ(list.Path(), first);
-    EXPECT_EQ(list.findChild<QLabel*>()->text().toStdString(), first);
-}
-
 TEST(Folders, A_First_Look_Begins_On_The_Drive_Of_Wine_Or_In_The_Home_Folder) {
     const QTemporaryDir home;
     const std::string drive = home.path().toStdString() + "/.wine/drive_c";
@@ -103,7 +92,27 @@ TEST(Folders, A_First_Look_Begins_On_The_Drive_Of_Wine_Or_In_The_Home_Folder) {
     QDir().mkpath(QString::fromStdString(drive));
     EXPECT_EQ(platform::desktop::Folder_List(nullptr).Path(), drive);
     qputenv("WINEPREFIX", "/no such folder");
-    EXPECT_EQ(platform::desktop::Folder_List(nullptr).Path(), home.path().toStdString());
+    const platform::desktop::Folder_List list(nullptr);
+    EXPECT_EQ(list.Path(), home.path().toStdString());
+    EXPECT_EQ(list.findChild<QLabel*>()->toolTip(), home.path());
+}
+
+TEST(Entry_Boxes, The_Arrow_Keys_Lead_Back_To_The_Typed_Text_With_An_Entry_Picked) {
+    driver::Start(conformance::Show_Main);
+    constexpr auto combo = conformance::Combo1;
+    platform::Add_Entries(combo, std::array<std::string, 2>{"Bet (BBBB)", "Beta (AAAA)"});
+    QWheelEvent turn({}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(platform::desktop::Find_Live(combo)->widget, &turn);
+    EXPECT_EQ(platform::Selected_Index(combo), -1) << "by the wheel";
+    driver::Click(combo);
+    driver::Type_Keys(conformance::Main_Window, "bet");
+    using Step = std::pair<Qt::Key, int>;
+    for (const auto& [key, index] : {Step(Qt::Key_Down, 0), Step(Qt::Key_Down, 1),
+                                     Step(Qt::Key_Down, -1), Step(Qt::Key_Up, 1)}) {
+        QTest::keyClick(QApplication::activePopupWidget(), key);
+        EXPECT_EQ(platform::Selected_Index(combo), index);
+        EXPECT_EQ(platform::Text_Of(combo), index < 0 ? "bet" : platform::Entry_Text(combo, index));
+    }
 }
 
 // Over its window, whose picture is whole by then.
