@@ -14,6 +14,7 @@
 #include "app/settings.h"
 #include "chart/chart_view.h"
 #include "chart/current_chart.h"
+#include "platform/common/live.h"
 #include "platform/controls.h"
 #include "platform/timers.h"
 #include "tests/conformance/all_windows.h"
@@ -22,9 +23,8 @@
 namespace skerrand {
 namespace {
 
-using platform::Control_Ref, platform::Is_Loaded, platform::Window;
+using platform::Control_Ref, platform::Window, platform::common::Loaded_Windows;
 using enum platform::Control_Kind;
-using Windows = std::vector<const Window*>;
 
 constexpr auto mains = std::span(all_windows).first(4);
 constexpr auto dialogs = std::span(all_windows).subspan(4, 3);
@@ -40,15 +40,13 @@ Control_Ref Named(const Window& window, std::string_view name) {
     return {&window, static_cast<std::size_t>(row - window.controls.begin())};
 }
 
-Windows Loaded(std::span<const Window* const> windows) {
-    Windows loaded(windows.begin(), windows.end());
-    std::erase_if(loaded, [](const Window* window) { return !Is_Loaded(*window); });
-    return loaded;
+bool Is_Loaded(const Window* window) {
+    return platform::Is_Loaded(*window);
 }
 
 struct State {
-    bool chart = Is_Loaded(form4::window);
-    std::size_t open_dialogs = Loaded(dialogs).size();
+    bool chart = Is_Loaded(&form4::window);
+    std::ptrdiff_t open_dialogs = std::ranges::count_if(dialogs, Is_Loaded);
     bool minimised = platform::State_Of(form4::window) == platform::Window_State::Minimised;
     bool refresher = platform::Is_Running(form4::Chart_Refresher);
     bool keys = platform::Is_Running(Named(form4::window, "KeyPress_Checker"));
@@ -82,10 +80,10 @@ std::string Digest() {
     std::ostringstream all;
     all << chart_view.view_left << ' ' << chart_view.view_top << ' ' << chart_view.zoom_rate
         << follow_aircraft << current_airport.icao_id;
-    for (const Window* window : Loaded(all_windows)) {
-        all << window->name;
-        for (std::size_t i = 0; i < window->controls.size(); ++i)
-            all << platform::Selected_Index({window, i}) << platform::Is_Checked({window, i});
+    for (const auto* window : Loaded_Windows()) {
+        all << window->table.name;
+        for (const auto* control : window->rows)
+            all << control->selected << control->checked;
     }
     return all.str();
 }
@@ -93,7 +91,7 @@ std::string Digest() {
 Effect Use(const Window& window) {
     const Control_Ref control{&window, chance() % window.controls.size()};
     const platform::Control_Kind kind = window.controls[control.index].kind;
-    const bool refused = &window == &form7::window && Is_Loaded(form8::window);
+    const bool refused = &window == &form7::window && Is_Loaded(&form8::window);
     const int entries = std::min(platform::Entry_Count(control), 5);
     if (kind == List && platform::Selected_Index(control) >= 0 && Below(2) == 0) {
         driver::Double_Click(control);
@@ -143,7 +141,7 @@ void Disturb() {
 
 /// Goes the way to the chart.
 void Go_On() {
-    if (Is_Loaded(form2::window)) {
+    if (Is_Loaded(&form2::window)) {
         const auto world = std::filesystem::current_path() / "fs2002";
         platform::Set_Folder_Path(Named(form2::window, "Dir1"), world.string());
         driver::Click(Named(form2::window, "Command1"));
@@ -154,13 +152,12 @@ void Go_On() {
     }
     for (const Control_Ref combo : {form3::Combo1, form3::Combo2})
         if (platform::Entry_Count(combo) > 5) driver::Pick(combo, Below(5));
-    if (Is_Loaded(form3::window)) driver::Click(Named(form3::window, "Command3"));
+    if (Is_Loaded(&form3::window)) driver::Click(Named(form3::window, "Command3"));
 }
 
 Effect Do_Something(const State& state) {
     if (!state.chart && Below(3) > 0) return Go_On(), None;
-    const Windows windows = Loaded(all_windows);
-    const Window& window = *windows[chance() % windows.size()];
+    const Window& window = Loaded_Windows()[chance() % Loaded_Windows().size()]->table;
     const bool is_away = driver::has_screen && state.minimised && &window == &form4::window;
     switch (Below(10)) {
         case 0:
@@ -202,9 +199,9 @@ TEST(Weeks, ChartLeavesItsTableOrTakesWhatIsDisabled) {
         if (!driver::Running()) continue;
         const State seen;
         SCOPED_TRACE(testing::Message() << "action " << i << " of effect " << effect);
-        ASSERT_EQ(Loaded(mains).size(), 1U);
+        ASSERT_EQ(std::ranges::count_if(mains, Is_Loaded), 1);
         ASSERT_TRUE(seen.chart || seen.open_dialogs == 0) << "a dialog stands alone";
-        ASSERT_TRUE(Is_Loaded(form7::window) || !Is_Loaded(form8::window));
+        ASSERT_TRUE(Is_Loaded(&form7::window) || !Is_Loaded(&form8::window));
         if (effect == Refused && !before.refresher) {
             ASSERT_EQ(Digest(), digest);
         }

@@ -61,7 +61,6 @@ inline constexpr Control main_controls[] = {
      .sorted = true},
     {"List1", List, "", {4500, 3000, 1400, 900}, "", Count<&Counts::double_clicks>},
     {"Text1", Text, "", {4500, 4000, 1400, 285}, "", Text1_Change},
-    {"Bar1", Progress, "", {4500, 4300, 1400, 255}},
     {.name = "Label1", .kind = Label, .at = {3000, 3000, 600, 255}, .transparent = true},
     {"Fast", Timer, "", {}, "", Tick_Fast, 200, false},
     {"Slow", Timer, "", {}, "", Count<&Counts::slow_ticks>, 200, false},

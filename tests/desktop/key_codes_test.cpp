@@ -41,16 +41,9 @@ TEST(Key_Codes, No_Layout_Moves_A_Key_To_A_Wrong_Code) {
     EXPECT_EQ(Codes_Of_Place(200), Key_Codes{});
 }
 
-TEST(Keys, A_Press_Counts_Once_And_The_Code_Of_A_Pair_Stays_While_One_Is_Held) {
+TEST(Keys, A_Key_That_Is_Held_From_The_Start_On_Is_No_Press) {
     Watch_Keys();
     Find_Key_Down(9, {27});
     Press_Key(9, {27});  // repeats itself
     EXPECT_EQ(GetAsyncKeyState(27), Key_Down);
-    Press_Key(50, {160, 16});
-    Press_Key(62, {161, 16});
-    Release_Key(50);
-    EXPECT_EQ(GetAsyncKeyState(160), Key_Was_Pressed);
-    EXPECT_EQ(GetAsyncKeyState(16), Key_Down | Key_Was_Pressed);
-    Release_Key(62);
-    EXPECT_EQ(GetAsyncKeyState(16), 0);
 }

@@ -40,15 +40,6 @@ TEST_F(Printing, A_File_Must_Not_Be_Overwritten_Or_Bear_A_Name_That_No_Folder_Ta
     EXPECT_NE(messages[1].text.find(path), std::string::npos) << messages[1].text;
 }
 
-TEST_F(Printing, A_Dropped_Document_Must_Not_Come_Out_Later) {
-    EXPECT_TRUE(Start_Page("dropped"));
-    EXPECT_TRUE(Print("printed"));
-    EXPECT_TRUE(Start_Page("dropped by opening"));
-    EXPECT_TRUE(Open_Printer());
-    EXPECT_FALSE(End_Document());
-    EXPECT_EQ(Files(), "printed.pdf");
-}
-
 TEST_F(Printing, A_File_That_Cannot_Be_Written_Must_Not_Pass_For_A_Print) {
     ASSERT_TRUE(folder.remove());
     EXPECT_FALSE(Print("KSEA Chart"));

@@ -10,9 +10,7 @@
 /// A fresh folder that is the working folder for as long as the object lives.
 class Scratch_Folder {
   public:
-    Scratch_Folder() : old_(std::filesystem::current_path()) {
-        const std::string name = "skerrand_" + std::to_string(std::random_device()());
-        path_ = (std::filesystem::temp_directory_path() / name).string();
+    Scratch_Folder() {
         std::filesystem::create_directory(path_);
         std::filesystem::current_path(path_);
     }
@@ -41,6 +39,7 @@ class Scratch_Folder {
     }
 
   private:
-    std::filesystem::path old_;
-    std::string path_;
+    const std::string name_ = "skerrand_" + std::to_string(std::random_device()());
+    const std::string path_ = (std::filesystem::temp_directory_path() / name_).string();
+    const std::filesystem::path old_ = std::filesystem::current_path();
 };
