@@ -77,46 +77,38 @@ again() {
     for ((times = $1; times > 0; --times)); do tell "${last[@]}"; done
 }
 
-# say COMMAND...: commands that have nothing to answer.
-say() {
-    local command
-    for command; do tell "$command"; done
-}
-
 # From the start of the program to that of the scan.
 set_up() {
-    say 'advance 3000' "folder Form2.Dir1 $world" 'click Form2.Command1'
+    do_step "> advance 3000; folder Form2.Dir1 $world; click Form2.Command1"
 }
 
 # The demonstration world, and the program with its databases built.
 install() {
     make_world "$world"
-    set_up
-    say 'advance 3000'
-    tell messages ...
+    do_step '> set_up; advance 3000; messages' ...
 }
 
 # From the lists to the chart of Key West and Adak.
 to_chart() {
-    say 'advance 1000' 'pick Form3.Combo1 13' 'pick Form3.Combo2 0' 'click Form3.Command3'
+    do_step '> advance 1000; pick Form3.Combo1 13; pick Form3.Combo2 0; click Form3.Command3'
 }
 
 # From a chart to a fresh one.
 to_new_chart() {
-    say 'click Form4.load_airpts_lst'
-    to_chart
+    do_step '> click Form4.load_airpts_lst; to_chart'
 }
 
 # press CODE...: keys go down in that order, all at once, and up again.
 press() {
-    local down=("${@/%/ down}") up=("${@/%/ up}")
-    say "${down[@]/#/key }" 'advance 1' "${up[@]/#/key }"
+    local code
+    for code; do tell "key $code down"; done
+    tell 'advance 1'
+    for code; do tell "key $code up"; done
 }
 
 # capture LINE CODE: picks a line of the list of keys and presses a key in the dialog for it.
 capture() {
-    say "pick Form7.List1 $1" 'double_click Form7.List1'
-    press "$2"
+    do_step "> pick Form7.List1 $1; double_click Form7.List1; press $2"
 }
 
 # do_step FIRST OTHERS...: what the lines of a scenario tell.
