@@ -6,9 +6,6 @@ exec > /dev/null 2>&1 < /dev/null
 case $1 in
     begin)
         "$(dirname "$0")/../../scripts/wine" "$2" --help
-        # A server of the network, as every Windows is one to itself.
-        mkdir -p "$WINEPREFIX/dosdevices/unc/localhost"
-        ln -sfn ../../c: "$WINEPREFIX/dosdevices/unc/localhost/c$"
         setsid wineserver -p
         "$(dirname "$0")/../../scripts/wine" "$2" --help
         ;;

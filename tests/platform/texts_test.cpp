@@ -1,7 +1,8 @@
-#include "platform/code_page.h"
-
 #include <gtest/gtest.h>
 #include <numeric>
+
+#include "platform/code_page.h"
+#include "platform/common/live.h"
 
 using namespace platform;
 
@@ -44,4 +45,15 @@ TEST(Code_Page, Letters_Beyond_Ascii_Change_Case_And_Signs_Among_Them_Stay) {
     const std::string both_stay = "\xDF\x83\xB5\xAA\x80@`";
     EXPECT_EQ(Lower_Case(both_stay), both_stay);
     EXPECT_EQ(Upper_Case(both_stay), both_stay);
+}
+
+TEST(Matches, The_Likeliest_Comes_Late_Or_A_Match_Is_Missed) {
+    const std::vector<std::string> entries = {"A Ksea Bar (AAAA)", "Ksea East (BBBB)",
+                                              "Seattle (KSEA)", "\xC9vora (LPEV)", "Z (XKSEA)"};
+    const std::pair<const char*, std::vector<std::size_t>> rows[] = {
+        {"ksea", {2, 1, 0, 4}}, {"KSEA", {2, 1, 0, 4}}, {"(ks", {2}},  {"kse", {1, 0, 2, 4}},
+        {"\xE9v", {3}},         {"e", {0, 1, 2, 3, 4}}, {"", {}},      {"ksea x", {}},
+        {"sea", {2, 0, 1, 4}},  {"b", {0, 1}},          {"lpev", {3}}, {")", {0, 1, 2, 3, 4}}};
+    for (const auto& [typed, expected] : rows)
+        EXPECT_EQ(common::Matches(entries, typed), expected) << typed;
 }
