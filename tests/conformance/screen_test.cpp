@@ -77,17 +77,6 @@ TEST_F(Conformance, Escape_Presses_What_Cancels_And_Return_Or_Space_In_A_List_Is
     }
 }
 
-TEST_F(Conformance, A_Key_That_A_Window_Takes_Moves_No_Focus_And_Presses_No_Button) {
-    Show(Key_Window);
-    driver::Click(Find_Control(Key_Window, "Button1"));
-    EXPECT_EQ(counts.clicks, 1);
-    for (const auto key : {driver::Enter, driver::Tab, driver::Enter}) {
-        driver::Press_Key(Key_Window, key);
-        EXPECT_EQ(driver::Focus(Key_Window), "");
-    }
-    EXPECT_EQ(counts.clicks, 1);
-}
-
 TEST_F(Conformance, Lines_Go_On_From_Each_Other_And_Stay_Until_Erased_And_The_State_Beyond_That) {
     Device_Context* device = Window_Device(Main_Window);
     Set_Pen_Width(device, 5);

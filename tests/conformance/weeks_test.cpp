@@ -17,13 +17,13 @@
 #include "platform/common/live.h"
 #include "platform/controls.h"
 #include "platform/timers.h"
-#include "tests/conformance/all_windows.h"
-#include "tests/conformance/driver.h"
+#include "tests/conformance/windows.h"
 
 namespace skerrand {
 namespace {
 
-using platform::Control_Ref, platform::Window, platform::common::Loaded_Windows;
+using platform::Control_Ref, platform::Is_Loaded, platform::Window;
+using platform::common::Loaded_Windows;
 using enum platform::Control_Kind;
 
 constexpr auto mains = std::span(all_windows).first(4);
@@ -40,13 +40,11 @@ Control_Ref Named(const Window& window, std::string_view name) {
     return {&window, static_cast<std::size_t>(row - window.controls.begin())};
 }
 
-bool Is_Loaded(const Window* window) {
-    return platform::Is_Loaded(*window);
-}
+constexpr auto stands = [](const Window* window) { return Is_Loaded(*window); };
 
 struct State {
-    bool chart = Is_Loaded(&form4::window);
-    std::ptrdiff_t open_dialogs = std::ranges::count_if(dialogs, Is_Loaded);
+    bool chart = Is_Loaded(form4::window);
+    std::ptrdiff_t open_dialogs = std::ranges::count_if(dialogs, stands);
     bool minimised = platform::State_Of(form4::window) == platform::Window_State::Minimised;
     bool refresher = platform::Is_Running(form4::Chart_Refresher);
     bool keys = platform::Is_Running(Named(form4::window, "KeyPress_Checker"));
@@ -91,7 +89,7 @@ std::string Digest() {
 Effect Use(const Window& window) {
     const Control_Ref control{&window, chance() % window.controls.size()};
     const platform::Control_Kind kind = window.controls[control.index].kind;
-    const bool refused = &window == &form7::window && Is_Loaded(&form8::window);
+    const bool refused = &window == &form7::window && Is_Loaded(form8::window);
     const int entries = std::min(platform::Entry_Count(control), 5);
     if (kind == List && platform::Selected_Index(control) >= 0 && Below(2) == 0) {
         driver::Double_Click(control);
@@ -141,7 +139,7 @@ void Disturb() {
 
 /// Goes the way to the chart.
 void Go_On() {
-    if (Is_Loaded(&form2::window)) {
+    if (Is_Loaded(form2::window)) {
         const auto world = std::filesystem::current_path() / "fs2002";
         platform::Set_Folder_Path(Named(form2::window, "Dir1"), world.string());
         driver::Click(Named(form2::window, "Command1"));
@@ -152,7 +150,7 @@ void Go_On() {
     }
     for (const Control_Ref combo : {form3::Combo1, form3::Combo2})
         if (platform::Entry_Count(combo) > 5) driver::Pick(combo, Below(5));
-    if (Is_Loaded(&form3::window)) driver::Click(Named(form3::window, "Command3"));
+    if (Is_Loaded(form3::window)) driver::Click(Named(form3::window, "Command3"));
 }
 
 Effect Do_Something(const State& state) {
@@ -199,9 +197,9 @@ TEST(Weeks, ChartLeavesItsTableOrTakesWhatIsDisabled) {
         if (!driver::Running()) continue;
         const State seen;
         SCOPED_TRACE(testing::Message() << "action " << i << " of effect " << effect);
-        ASSERT_EQ(std::ranges::count_if(mains, Is_Loaded), 1);
+        ASSERT_EQ(std::ranges::count_if(mains, stands), 1);
         ASSERT_TRUE(seen.chart || seen.open_dialogs == 0) << "a dialog stands alone";
-        ASSERT_TRUE(Is_Loaded(&form7::window) || !Is_Loaded(&form8::window));
+        ASSERT_TRUE(Is_Loaded(form7::window) || !Is_Loaded(form8::window));
         if (effect == Refused && !before.refresher) {
             ASSERT_EQ(Digest(), digest);
         }

@@ -2,9 +2,24 @@
 
 #include <gtest/gtest.h>
 
+#include "app/form1.h"
+#include "app/form2.h"
+#include "app/form5.h"
+#include "app/form6.h"
+#include "chart/form4.h"
+#include "keys/form7.h"
+#include "keys/form8.h"
 #include "platform/controls.h"
 #include "platform/timers.h"
+#include "selection/form3.h"
 #include "tests/conformance/driver.h"
+
+/// The windows of the program, by their numbers from 1 on, for tests that are linked with it.
+namespace skerrand {
+inline constexpr const platform::Window* all_windows[] = {
+    &form1::window, &form2::window, &form3::window, &form4::window,
+    &form5::window, &form6::window, &form7::window, &form8::window};
+}
 
 /// The windows that the conformance test runs its small programs on, and what their handlers have
 /// counted.

@@ -6,8 +6,7 @@
 #include <map>
 
 #include "platform/controls.h"
-#include "tests/conformance/all_windows.h"
-#include "tests/conformance/driver.h"
+#include "tests/conformance/windows.h"
 
 namespace skerrand {
 
@@ -56,8 +55,7 @@ TEST(Access, A_Control_Has_No_Name_Or_Another_Role_Than_Its_Kind) {
 
 // The order as a user would read it from the table, twice round.
 TEST(Access, The_Tab_Key_Passes_A_Control_Over_Or_Goes_Another_Way_Than_The_Table) {
-    using List = std::vector<Names>;
-    const List expected = {
+    const std::vector<Names> expected = {
         {""},
         {"Option1", "Drive1", "Dir1", "Text1", "Command1"},
         {"Combo1", "Combo2", "Drive1", "Text1", "Command3", "Command2"},

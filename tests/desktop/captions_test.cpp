@@ -8,7 +8,6 @@
 #include "platform/desktop/windows/folder_list.h"
 #include "platform/desktop/windows/window_widget.h"
 #include "platform/message_box.h"
-#include "tests/conformance/all_windows.h"
 #include "tests/conformance/windows.h"
 
 using namespace skerrand;

@@ -17,10 +17,6 @@ class Printing : public testing::Test {
         driver::Take_Messages();
     }
 
-    static std::string Files() {
-        return QDir().entryList(QDir::Files | QDir::Hidden, QDir::Name).join('|').toStdString();
-    }
-
     QTemporaryDir folder;
 };
 
@@ -33,7 +29,9 @@ static bool Print(const char* title) {
 TEST_F(Printing, A_File_Must_Not_Be_Overwritten_Or_Bear_A_Name_That_No_Folder_Takes) {
     for (const char* title : {"KSEA Chart", "KSEA Chart", "../A\\B\n", ""})
         EXPECT_TRUE(Print(title)) << title;
-    EXPECT_EQ(Files(), "KSEA Chart (2).pdf|KSEA Chart.pdf|_.._A_B_.pdf|_.pdf");
+    const QStringList files = QDir().entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    EXPECT_EQ(files.join('|').toStdString(),
+              "KSEA Chart (2).pdf|KSEA Chart.pdf|_.._A_B_.pdf|_.pdf");
     const auto messages = driver::Take_Messages();
     ASSERT_EQ(messages.size(), 4U);
     const std::string path = "\"" + folder.path().toStdString() + "/KSEA Chart (2).pdf\"";
