@@ -119,8 +119,7 @@ zoomed() { keys KP_Add && [ "$(pixels "$id" $green)" -gt 100 ]; }
 wait_for "the keys do not zoom" zoomed
 # On a French keyboard the key of the Q is the one of the A.
 setxkbmap fr
-keys 24
-paused() { [ "$(pixels "$id" C00000)" -gt 20 ]; }
+paused() { keys 24 && [ "$(pixels "$id" C00000)" -gt 20 ]; }
 wait_for "another layout of the keyboard is not seen" paused
 setxkbmap us
 
