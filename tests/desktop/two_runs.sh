@@ -8,9 +8,7 @@ bin=$1
 folder=$2
 pictures=$folder/pictures
 scripts=$(dirname "$(readlink -f "$0")")/../../scripts
-for tool in xvfb-run xdotool import; do
-    command -v $tool > /dev/null || { echo "$tool is not installed"; exit 77; }
-done
+type xvfb-run xdotool import > /dev/null || exit 77
 . "$scripts/hand.sh"
 . "$scripts/cups.sh"
 can_print || exit 77
@@ -72,7 +70,10 @@ answer scan-begins
 answer scan-ends
 wait_for "the simulator does not stand" grep minutes flight.txt
 choose seattle heathrow
-
+window 'KSEA Chart'
+sleep 1.2
+menu 20 1 # and once more, by a link of its own
+choose seattle heathrow
 window 'KSEA Chart'
 chart=$id
 ! shown 'Skerrand Message' > /dev/null || fail "the chart does not find the simulator"
