@@ -1,8 +1,8 @@
 // Prints one page on the system's default printer:
 //   print_page [wait | measure]
 // It tells in a line the dots to the inch, and in dots the size of what can be printed and that of
-// the page's first text. With "wait" it waits for a line ahead of printing, with "measure" it prints
-// nothing. The status is 0 if the printer has taken the page, 1 if not.
+// the page's first text. With "wait" it waits for a line before it prints, with "measure" it does
+// not print. The status is 0 if the printer has taken the page, 1 if not.
 
 #include <QApplication>
 #include <iostream>
