@@ -9,9 +9,8 @@ set -u
 bin=$1
 folder=$2
 can_print || exit 77
-mkdir -p "$folder"
-cd "$folder" || exit 1
-rm -rf -- *
+rm -rf "$folder"
+mkdir -p "$folder" && cd "$folder" || exit 1
 export QT_QPA_PLATFORM=offscreen
 trap end_printing EXIT
 
