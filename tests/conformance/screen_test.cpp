@@ -77,6 +77,13 @@ TEST_F(Conformance, Escape_Presses_What_Cancels_And_Return_Or_Space_In_A_List_Is
     }
 }
 
+TEST_F(Conformance, A_Window_That_Takes_Keys_Leaves_The_Focus_To_No_Control) {
+    Show(Key_Window);
+    driver::Click(Find_Control(Key_Window, "Button1"));
+    driver::Press_Key(Key_Window, driver::Tab);
+    EXPECT_EQ(driver::Focus(Key_Window), "");
+}
+
 TEST_F(Conformance, Lines_Go_On_From_Each_Other_And_Stay_Until_Erased_And_The_State_Beyond_That) {
     Device_Context* device = Window_Device(Main_Window);
     Set_Pen_Width(device, 5);
