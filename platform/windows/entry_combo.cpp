@@ -134,7 +134,7 @@ LRESULT CALLBACK Edit_Procedure(HWND edit, UINT message, WPARAM first, LPARAM se
     const LRESULT result = 0;
     switch (message) {
         case WM_GETDLGCODE:
-            if (Is_Open(combo)) {
+            if (Is_Open(combo) && first != VK_TAB) {
                 return DefSubclassProc(edit, message, first, second) | DLGC_WANTALLKEYS;
             }
             break;

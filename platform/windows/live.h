@@ -66,7 +66,7 @@ struct Live_Window final : common::Live_Window {
     void Wipe() override;
     Window_State State() const override;
     Pixels Frame_Pixels() const override;
-    void Show_Minimised() override { ShowWindow(handle, SW_MINIMIZE); }
+    void Show_Minimised() override { SendMessageW(handle, WM_SYSCOMMAND, SC_MINIMIZE, 0); }
     void Place(int x, int y, int cx, int cy, unsigned flags) override;
 };
 

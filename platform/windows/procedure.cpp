@@ -50,8 +50,7 @@ LRESULT Default_Button(const Live_Window& window) {
     return is_button ? MAKELRESULT(id, DC_HASDEFID) : 0;
 }
 
-void Keep_Focus(Live_Window& window, bool active) {
-    if (active || IsIconic(window.handle)) return;
+void Keep_Focus(Live_Window& window) {
     const HWND focus = GetFocus();
     if (IsChild(window.handle, focus)) window.focus = focus;
 }
@@ -113,13 +112,18 @@ LRESULT Take(Live_Window& window, UINT message, WPARAM first, LPARAM second) {
             return 1;
         case WM_SIZE:
             if (window.was_shown && first != SIZE_MINIMIZED) Fit_Canvas(window);
+            // While it was minimised it could not hand the focus on.
+            if (first != SIZE_MINIMIZED && GetFocus() == window.handle) Give_Focus(window);
             window.Report_Size();
             return 0;
+        case WM_SYSCOMMAND:
+            if ((first & 0xFFF0) == SC_MINIMIZE) Keep_Focus(window);
+            break;
         case WM_CLOSE:
             On_Event([&window] { window.Dismiss(); });
             return 0;
         case WM_ACTIVATE:
-            Keep_Focus(window, LOWORD(first) != WA_INACTIVE);
+            if (LOWORD(first) == WA_INACTIVE) Keep_Focus(window);
             break;
         case WM_CTLCOLORBTN:
         case WM_CTLCOLORSTATIC: {

@@ -138,8 +138,8 @@ void Type(Control_Ref combo, const std::string& text) {
     Press_At(edit, 8, 5);
     SendMessageW(edit, EM_SETSEL, 0, -1);
     Type_Keys(*combo.window, text);
-    Strike(VK_ESCAPE);
     Strike(VK_TAB);
+    EXPECT_NE(GetFocus(), edit);
 }
 
 void Press(const Window& window, Mouse_Button button, int x, int y) {

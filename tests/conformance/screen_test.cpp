@@ -61,6 +61,8 @@ TEST_F(Conformance, Escape_Presses_What_Cancels_And_Return_Or_Space_In_A_List_Is
     Add_Entries(List1, std::array{"z"s, "a"s});
     while (driver::Focus(Main_Window) != "List1")
         driver::Press_Key(Main_Window, driver::Tab);
+    driver::Do(driver::Minimise, Main_Window);
+    driver::Do(driver::Restore, Main_Window);
     driver::Press_Key(Main_Window, driver::Down);
     for (const auto key : {driver::Enter, driver::Space})
         driver::Press_Key(Main_Window, key);
