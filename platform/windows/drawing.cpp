@@ -1,7 +1,8 @@
 #include "platform/drawing.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <cmath>
+#include <numbers>
 #include <string>
 
 #include "platform/windows/device.h"
@@ -23,6 +24,15 @@ constexpr int Widest_Pen = 256;
 /// nothing at all.
 constexpr int Farthest = 1 << 26;
 
+constexpr double Turn = 2 * std::numbers::pi;  // radians
+
+/// The system counts the lengths of this pen by painted pixels, in steps of three.
+constexpr int Thin_Step = 3;
+
+bool Is_Thin(const Device_Context& device) {
+    return device.pen_width <= 1 && !device.is_page;
+}
+
 /// Only a pen that is not thin and solid needs an object of its own.
 void Set_Pen(Device_Context& device) {
     const COLORREF colour = windows::Native_Colour(device.pen_colour);
@@ -37,9 +47,8 @@ void Set_Pen(Device_Context& device) {
         device.pen = ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_ROUND | PS_JOIN_ROUND, width,
                                   &brush, 0, nullptr);
     } else {
-        // The thin one is the faster by far, and its dashes run on from line to line. The system
-        // counts its lengths in steps of three pixels.
-        const bool is_thin = width == 1 && !device.is_page;
+        // The thin one is the faster by far, and its dashes run on from line to line.
+        const bool is_thin = Is_Thin(device);
         const DWORD dots = is_thin ? 1U : static_cast<DWORD>(device.dots_per_inch / 32);
         const DWORD lengths[] = {Dash * dots, Gap * dots};
         const DWORD style =
@@ -130,6 +139,72 @@ bool Same_Radial(double x1, double y1, double x2, double y2) {
     return x1 * y2 == y1 * x2 && x1 * x2 + y1 * y2 >= 0;
 }
 
+/// An ellipse by its middle and radii, and angles on it counter-clockwise from the east.
+struct Ellipse_Shape {
+    double x, y, wide, high;
+
+    double Angle_Of(double to_x, double to_y) const {
+        const double angle = std::atan2((y - to_y) / high, (to_x - x) / wide);
+        return angle < 0 ? angle + Turn : angle;
+    }
+
+    POINT Pixel_At(double angle) const {
+        return {std::lround(x - 0.5 + (wide - 0.5) * std::cos(angle)),
+                std::lround(y - 0.5 - (high - 0.5) * std::sin(angle))};
+    }
+
+    /// The pixels that the outline paints in a radian.
+    double Pace(double sine, double cosine) const {
+        return std::max(wide * std::abs(sine), high * std::abs(cosine));
+    }
+
+    /// Those from the east to an angle.
+    double Way_To(double angle) const {
+        constexpr int Steps_Per_Radian = 40;  // right to some tenths of a pixel
+        const int steps = static_cast<int>(angle * Steps_Per_Radian) + 1;
+        const double step = angle / steps, sine = std::sin(step), cosine = std::cos(step);
+        double s = std::sin(step / 2), c = std::cos(step / 2), way = 0;
+        for (int i = 0; i < steps; ++i) {
+            way += Pace(s, c) * step;
+            const double next = s * cosine + c * sine;
+            c = c * cosine - s * sine;
+            s = next;
+        }
+        return way;
+    }
+};
+
+/// A part of the outline too short to be bent.
+void Chord(HDC dc, const Ellipse_Shape& shape, double from, double to) {
+    const POINT start = shape.Pixel_At(from), end = shape.Pixel_At(to);
+    ::MoveToEx(dc, start.x, start.y, nullptr);
+    ::LineTo(dc, end.x, end.y);
+}
+
+/// The system counts the dashes of each arc from its start. They are those of the whole ellipse
+/// here, so that outlines that share an arc do not fill each other's gaps: the arc begins with the
+/// next dash, behind what is left of the one before.
+void Dashed_Arc(HDC dc, const Corners& box, const Ellipse_Shape& shape, double from, double to) {
+    if (to > Turn) {
+        Dashed_Arc(dc, box, shape, 0, to - Turn);
+        to = Turn;
+    }
+    constexpr double Dash_Pixels = Dash * Thin_Step, Gap_Pixels = Gap * Thin_Step;
+    constexpr double Period = Dash_Pixels + Gap_Pixels;
+    const double left = Period - std::fmod(shape.Way_To(from), Period);
+    const double per_pixel = 1 / shape.Pace(std::sin(from), std::cos(from));
+    const double dash_end = from + (left - Gap_Pixels) * per_pixel;
+    double next = from + left * per_pixel;
+    if (next + Dash_Pixels * per_pixel > to) {
+        if (to - from < Turn / 2) return Chord(dc, shape, from, to);
+        next = from;
+    } else if (dash_end > from) {
+        Chord(dc, shape, from, dash_end);
+    }
+    const POINT start = shape.Pixel_At(next), end = shape.Pixel_At(to);
+    ::Arc(dc, box.left, box.top, box.right, box.bottom, start.x, start.y, end.x, end.y);
+}
+
 }  // namespace
 
 COLORREF windows::Native_Colour(Colour colour) {
@@ -192,7 +267,12 @@ void Ellipse(Device_Context* device, int left, int top, int right, int bottom) {
     const Corners box = Sorted(left, top, right, bottom);
     const HDC dc = Ready(device);
     if (dc == nullptr || !box.are_near) return;
-    if (!Is_In_Sight(dc, box, device->fill_style != Fill_Style::Hollow)) return;
+    const bool is_hollow = device->fill_style == Fill_Style::Hollow;
+    if (!Is_In_Sight(dc, box, !is_hollow)) return;
+    if (is_hollow && device->pen_style == Pen_Style::Dashed && Is_Thin(*device)) {
+        const int middle = (top + bottom) / 2;
+        return Arc(device, left, top, right, bottom, box.right, middle, box.right, middle);
+    }
     ::Ellipse(dc, box.left, box.top, box.right, box.bottom);
 }
 
@@ -214,7 +294,15 @@ void Arc(Device_Context* device, int left, int top, int right, int bottom, int x
         x2 = x1;
         y2 = y1;
     }
-    ::Arc(dc, box.left, box.top, box.right, box.bottom, x1, y1, x2, y2);
+    const Ellipse_Shape shape{x, y, box.right - x, box.bottom - y};
+    const bool is_dashed = device->pen_style == Pen_Style::Dashed && Is_Thin(*device);
+    if (!is_dashed || shape.wide == 0 || shape.high == 0) {
+        ::Arc(dc, box.left, box.top, box.right, box.bottom, x1, y1, x2, y2);
+        return;
+    }
+    const double from = shape.Angle_Of(x1, y1), to = shape.Angle_Of(x2, y2);
+    Dashed_Arc(dc, box, shape, from, to > from ? to : to + Turn);
+    ::MoveToEx(dc, device->position.x, device->position.y, nullptr);
 }
 
 void TextOutA(Device_Context* device, int x, int y, std::string_view text) {

@@ -1,5 +1,6 @@
 // What the headers of the layer promise of a screen: places, focus, keys and pixels.
 
+#include <cmath>
 #include <array>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -111,6 +112,22 @@ TEST_F(Conformance, Lines_Go_On_From_Each_Other_And_Stay_Until_Erased_And_The_St
     EXPECT_EQ(Window_Device(Main_Window), nullptr);
     LineTo(nullptr, 1, 1);
     TextOutA(nullptr, 1, 1, "text");
+}
+
+TEST_F(Conformance, Outlines_That_Share_An_Arc_Share_Its_Gaps) {
+    Device_Context* device = Window_Device(Main_Window);
+    Set_Pen_Style(device, Pen_Style::Dashed);
+    for (const int x : {140, 180, 220, 236})
+        Arc(device, 20, 20, 240, 260, x, 260, 130, 20);
+    int gaps = 0;
+    for (int up = 1; up < 80; ++up) {
+        const int edge = 130 + static_cast<int>(std::lround(110 * std::sqrt(1 - up * up / 14400.)));
+        const auto is_white = [&](int x) {
+            return driver::Pixel(Main_Window, x, 140 - up) == Colour_White;
+        };
+        gaps += is_white(edge - 2) && is_white(edge - 1) && is_white(edge) ? 1 : 0;
+    }
+    EXPECT_GT(gaps, 15);
 }
 
 TEST_F(Conformance, A_Transparent_Label_Shows_What_Is_Drawn_Behind_It_And_Another_Does_Not) {
