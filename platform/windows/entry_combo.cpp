@@ -161,6 +161,7 @@ LRESULT CALLBACK Edit_Procedure(HWND edit, UINT message, WPARAM first, LPARAM se
         }
         case WM_KILLFOCUS:
             Close_List(combo);
+            SendMessageW(edit, EM_SETSEL, 0, 0);  // a selection looks like the focus
             break;
         case EM_SETSEL:
             // All of a text that is longer than the box: its start stays in view.
