@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QSocketNotifier>
 #include <QStyleFactory>
 #include <QTimer>
@@ -30,6 +31,8 @@ bool leaving = false;
 /// desktop would bring wider controls and, a dark one, light text on them.
 void Set_Look() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    // The style's pictures of controls that are gone would fill ten times as much.
+    QPixmapCache::setCacheLimit(1024);  // kB
     QPalette palette(QColor(212, 208, 200));
     palette.setColor(QPalette::Highlight, QColor(10, 36, 106));
     palette.setColor(QPalette::HighlightedText, Qt::white);
