@@ -86,6 +86,7 @@ LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM first, LPARAM secon
 }  // namespace
 
 void windows::Watch_Keys() {
+    keys = {};
     WNDCLASSW description{};
     description.lpfnWndProc = Procedure;
     description.hInstance = GetModuleHandleW(nullptr);
@@ -96,10 +97,6 @@ void windows::Watch_Keys() {
     constexpr USHORT Generic_Desktop = 1, Keyboard = 6;
     const RAWINPUTDEVICE keyboard{Generic_Desktop, Keyboard, RIDEV_INPUTSINK, listener};
     RegisterRawInputDevices(&keyboard, 1, sizeof keyboard);
-}
-
-void windows::Forget_Keys() {
-    keys = {};
 }
 
 std::uint16_t GetAsyncKeyState(int code) {

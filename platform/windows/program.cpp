@@ -17,13 +17,12 @@ void Set_Up() {
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
     const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_PROGRESS_CLASS};
     InitCommonControlsEx(&classes);
-    Watch_Keys();
 }
 
 void Begin(Handler start) {
     MSG quit;
     PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
-    Forget_Keys();
+    Watch_Keys();
     common::Begin(start);
 }
 

@@ -22,11 +22,8 @@ const wchar_t* Window_Class();
 /// and the arrows work.
 void Dispatch(MSG& message);
 
-/// From now on the keys of all programs are noted.
+/// From now on the keys of all programs are noted; none counts as pressed, whatever was.
 void Watch_Keys();
-
-/// Takes no key for pressed, whatever was.
-void Forget_Keys();
 
 // Ticks of the program's timers are counted here and not by the system, whose timers are coarser
 // than the scan of thousands of files asks for, and whose messages queue up.
