@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <string>
 
+#include "platform/common/ellipse.h"
 #include "platform/windows/device.h"
 #include "platform/windows/live.h"
 #include "platform/windows/text.h"
@@ -12,6 +12,9 @@
 namespace platform {
 
 namespace {
+
+using common::Ellipse_Shape;
+using common::Turn;
 
 /// A dash and the gap behind it, in 32nds of an inch; short enough to show on short lines too.
 constexpr DWORD Dash = 2;
@@ -23,8 +26,6 @@ constexpr int Widest_Pen = 256;
 /// Farther out the system's own arithmetic fails; nothing of such a figure can be told from
 /// nothing at all.
 constexpr int Farthest = 1 << 26;
-
-constexpr double Turn = 2 * std::numbers::pi;  // radians
 
 /// The system counts the lengths of this pen by painted pixels, in steps of three.
 constexpr int Thin_Step = 3;
@@ -139,44 +140,14 @@ bool Same_Radial(double x1, double y1, double x2, double y2) {
     return x1 * y2 == y1 * x2 && x1 * x2 + y1 * y2 >= 0;
 }
 
-/// An ellipse by its middle and radii, and angles on it counter-clockwise from the east.
-struct Ellipse_Shape {
-    double x, y, wide, high;
-
-    double Angle_Of(double to_x, double to_y) const {
-        const double angle = std::atan2((y - to_y) / high, (to_x - x) / wide);
-        return angle < 0 ? angle + Turn : angle;
-    }
-
-    POINT Pixel_At(double angle) const {
-        return {std::lround(x - 0.5 + (wide - 0.5) * std::cos(angle)),
-                std::lround(y - 0.5 - (high - 0.5) * std::sin(angle))};
-    }
-
-    /// The pixels that the outline paints in a radian.
-    double Pace(double sine, double cosine) const {
-        return std::max(wide * std::abs(sine), high * std::abs(cosine));
-    }
-
-    /// Those from the east to an angle.
-    double Way_To(double angle) const {
-        constexpr int Steps_Per_Radian = 40;  // right to some tenths of a pixel
-        const int steps = static_cast<int>(angle * Steps_Per_Radian) + 1;
-        const double step = angle / steps, sine = std::sin(step), cosine = std::cos(step);
-        double s = std::sin(step / 2), c = std::cos(step / 2), way = 0;
-        for (int i = 0; i < steps; ++i) {
-            way += Pace(s, c) * step;
-            const double next = s * cosine + c * sine;
-            c = c * cosine - s * sine;
-            s = next;
-        }
-        return way;
-    }
-};
+POINT Pixel_At(const Ellipse_Shape& shape, double angle) {
+    return {std::lround(shape.x - 0.5 + (shape.radius_x - 0.5) * std::cos(angle)),
+            std::lround(shape.y - 0.5 - (shape.radius_y - 0.5) * std::sin(angle))};
+}
 
 /// A part of the outline too short to be bent.
 void Chord(HDC dc, const Ellipse_Shape& shape, double from, double to) {
-    const POINT start = shape.Pixel_At(from), end = shape.Pixel_At(to);
+    const POINT start = Pixel_At(shape, from), end = Pixel_At(shape, to);
     ::MoveToEx(dc, start.x, start.y, nullptr);
     ::LineTo(dc, end.x, end.y);
 }
@@ -191,8 +162,9 @@ void Dashed_Arc(HDC dc, const Corners& box, const Ellipse_Shape& shape, double f
     }
     constexpr double Dash_Pixels = Dash * Thin_Step, Gap_Pixels = Gap * Thin_Step;
     constexpr double Period = Dash_Pixels + Gap_Pixels;
-    const double left = Period - std::fmod(shape.Way_To(from), Period);
-    const double per_pixel = 1 / shape.Pace(std::sin(from), std::cos(from));
+    const double left = Period - std::fmod(shape.Painted_Way_To(from), Period);
+    const double per_pixel = 1 / std::max(shape.radius_x * std::abs(std::sin(from)),
+                                          shape.radius_y * std::abs(std::cos(from)));
     const double dash_end = from + (left - Gap_Pixels) * per_pixel;
     double next = from + left * per_pixel;
     if (next + Dash_Pixels * per_pixel > to) {
@@ -201,7 +173,7 @@ void Dashed_Arc(HDC dc, const Corners& box, const Ellipse_Shape& shape, double f
     } else if (dash_end > from) {
         Chord(dc, shape, from, dash_end);
     }
-    const POINT start = shape.Pixel_At(next), end = shape.Pixel_At(to);
+    const POINT start = Pixel_At(shape, next), end = Pixel_At(shape, to);
     ::Arc(dc, box.left, box.top, box.right, box.bottom, start.x, start.y, end.x, end.y);
 }
 
@@ -296,7 +268,7 @@ void Arc(Device_Context* device, int left, int top, int right, int bottom, int x
     }
     const Ellipse_Shape shape{x, y, box.right - x, box.bottom - y};
     const bool is_dashed = device->pen_style == Pen_Style::Dashed && Is_Thin(*device);
-    if (!is_dashed || shape.wide == 0 || shape.high == 0) {
+    if (!is_dashed || shape.radius_x == 0 || shape.radius_y == 0) {
         ::Arc(dc, box.left, box.top, box.right, box.bottom, x1, y1, x2, y2);
         return;
     }

@@ -1,7 +1,7 @@
 // What the headers of the layer promise of a screen: places, focus, keys and pixels.
 
-#include <cmath>
 #include <array>
+#include <cmath>
 #include <filesystem>
 #include <gtest/gtest.h>
 

@@ -25,6 +25,10 @@ bool Narrow(double start, double step, Range& part) {
     return part.from <= part.to;
 }
 
+QPointF Point_At(const Ellipse_Shape& shape, double t) {
+    return {shape.x + shape.radius_x * std::cos(t), shape.y - shape.radius_y * std::sin(t)};
+}
+
 }  // namespace
 
 std::optional<QLineF> Clip_Line(const QLineF& line, const QRectF& area) {
@@ -39,10 +43,6 @@ std::optional<QLineF> Clip_Line(const QLineF& line, const QRectF& area) {
                   part.to == 1 ? line.p2() : line.pointAt(part.to));
 }
 
-QPointF Ellipse_Shape::At(double t) const {
-    return {centre.x() + radius_x * std::cos(t), centre.y() - radius_y * std::sin(t)};
-}
-
 Visible_Parts Visible_Ranges(const Ellipse_Shape& shape, Range range, const QRectF& area) {
     QVarLengthArray<double, 10> cuts{range.from, range.to};
     // Both angles at which the outline crosses an edge's line, by the cosine of the angle or, for
@@ -54,15 +54,15 @@ Visible_Parts Visible_Ranges(const Ellipse_Shape& shape, Range range, const QRec
             if (range.from < t && t < range.to) cuts.append(t);
         }
     };
-    add((area.left() - shape.centre.x()) / shape.radius_x, 0);
-    add((area.right() - shape.centre.x()) / shape.radius_x, 0);
-    add((shape.centre.y() - area.top()) / shape.radius_y, Quarter);
-    add((shape.centre.y() - area.bottom()) / shape.radius_y, Quarter);
+    add((area.left() - shape.x) / shape.radius_x, 0);
+    add((area.right() - shape.x) / shape.radius_x, 0);
+    add((shape.y - area.top()) / shape.radius_y, Quarter);
+    add((shape.y - area.bottom()) / shape.radius_y, Quarter);
     std::sort(cuts.begin(), cuts.end());
 
     Visible_Parts parts;
     for (int i = 1; i < cuts.size(); ++i) {
-        if (area.contains(shape.At((cuts[i - 1] + cuts[i]) / 2))) {
+        if (area.contains(Point_At(shape, (cuts[i - 1] + cuts[i]) / 2))) {
             parts.append({cuts[i - 1], cuts[i]});
         }
     }
@@ -72,10 +72,10 @@ Visible_Parts Visible_Ranges(const Ellipse_Shape& shape, Range range, const QRec
 QPolygonF Points_Of(const Ellipse_Shape& shape, Range part) {
     const double radius = std::max({shape.radius_x, shape.radius_y, 1.0});
     const double step = Turn / std::ceil(Turn / std::sqrt(8 * Chord_Error / radius));
-    QPolygonF points{shape.At(part.from)};
+    QPolygonF points{Point_At(shape, part.from)};
     for (double i = std::floor(part.from / step) + 1; i * step < part.to; ++i)
-        points.append(shape.At(i * step));
-    points.append(shape.At(part.to));
+        points.append(Point_At(shape, i * step));
+    points.append(Point_At(shape, part.to));
     return points;
 }
 
@@ -85,17 +85,7 @@ double Length(Measure measure, QPointF step) {
 }
 
 double Way_To(Measure measure, const Ellipse_Shape& shape, double t) {
-    if (measure == Measure::Painted_Pixels) {
-        // In each quarter first the one axis has more pixels, then the other.
-        const double quarters = std::floor(t / Quarter);
-        const double u = t - quarters * Quarter;
-        const bool is_upright = std::fmod(quarters, 2) == 0;
-        const double first = is_upright ? shape.radius_y : shape.radius_x;
-        const double second = is_upright ? shape.radius_x : shape.radius_y;
-        const double whole = std::hypot(first, second);
-        const bool is_first = first * std::cos(u) > second * std::sin(u);
-        return quarters * whole + (is_first ? first * std::sin(u) : whole - second * std::cos(u));
-    }
+    if (measure == Measure::Painted_Pixels) return shape.Painted_Way_To(t);
     // The series of an ellipse's arc by its third flattening.
     const double mean = (shape.radius_x + shape.radius_y) / 2;
     const double n = (shape.radius_x - shape.radius_y) / (2 * mean);

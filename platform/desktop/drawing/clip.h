@@ -4,28 +4,20 @@
 #include <QPolygonF>
 #include <QRectF>
 #include <QVarLengthArray>
-#include <numbers>
 #include <optional>
+
+#include "platform/common/ellipse.h"
 
 /// Lines and ellipses, and what of them can be seen. The program's points may lie two thousand
 /// million pixels outside of the picture; the toolkit's own arithmetic is only sound for some ten
 /// thousand.
 namespace platform::desktop {
 
-inline constexpr double Turn = 2 * std::numbers::pi;
+using common::Ellipse_Shape;
+using common::Turn;
 
 /// The part of the line that runs through the rectangle; nothing if none does.
 std::optional<QLineF> Clip_Line(const QLineF& line, const QRectF& area);
-
-/// An ellipse whose axes lie along those of the picture. A point of it is
-/// (centre.x + radius_x * cos t, centre.y - radius_y * sin t), so that t grows counter-clockwise.
-struct Ellipse_Shape {
-    QPointF centre;
-    double radius_x = 0;
-    double radius_y = 0;
-
-    QPointF At(double t) const;
-};
 
 /// A part of an ellipse's outline; 0 <= from <= to <= Turn.
 struct Range {

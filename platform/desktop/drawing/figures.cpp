@@ -104,7 +104,7 @@ QRectF Sorted_Box(int left, int top, int right, int bottom) {
 Ellipse_Shape Shape_In(const Device_Context& device, const QRectF& box) {
     const double middle = Pixel_Middle(device);
     const QRectF edge = box.adjusted(middle, middle, middle - 1, middle - 1);
-    return {edge.center(), edge.width() / 2, edge.height() / 2};
+    return {edge.center().x(), edge.center().y(), edge.width() / 2, edge.height() / 2};
 }
 
 void Fill_Ellipse(Device_Context& device, const Ellipse_Shape& shape, bool is_near) {
@@ -112,17 +112,17 @@ void Fill_Ellipse(Device_Context& device, const Ellipse_Shape& shape, bool is_ne
     if (is_near) {
         device.painter.setPen(Qt::NoPen);
         device.painter.setBrush(colour);
-        device.painter.drawEllipse(shape.centre, shape.radius_x, shape.radius_y);
+        device.painter.drawEllipse(QPointF(shape.x, shape.y), shape.radius_x, shape.radius_y);
         return;
     }
     // Row by row.
     const QRectF area = device.area;
     for (double y = area.top(); y < area.bottom(); ++y) {
-        const double sine = (y + 0.5 - shape.centre.y()) / shape.radius_y;
+        const double sine = (y + 0.5 - shape.y) / shape.radius_y;
         if (!(std::abs(sine) < 1)) continue;
         const double half = shape.radius_x * std::sqrt((1 - sine) * (1 + sine));
-        const double left = std::max(shape.centre.x() - half, area.left());
-        const double right = std::min(shape.centre.x() + half, area.right());
+        const double left = std::max(shape.x - half, area.left());
+        const double right = std::min(shape.x + half, area.right());
         if (left < right) device.painter.fillRect(QRectF(left, y, right - left, 1), colour);
     }
 }
@@ -179,16 +179,10 @@ void Arc(Device_Context* device, int left, int top, int right, int bottom, int x
     if (box.isEmpty() || !Open_Painter(device)) return;
     const Ellipse_Shape shape = Shape_In(*device, box);
     if (shape.radius_x == 0 || shape.radius_y == 0) return;
-    const QPointF centre = box.center();
-    // A radial at an angle of the circle meets the ellipse at the angle of the point that the same
-    // squeeze of both axes would bring there.
-    const auto angle = [&](double x, double y) {
-        const double t =
-            std::atan2((centre.y() - y) / shape.radius_y, (x - centre.x()) / shape.radius_x);
-        return t < 0 ? t + Turn : t;
-    };
-    const double from = angle(x1, y1);
-    double to = angle(x2, y2);
+    // From the box's own centre, whatever the pen.
+    const Ellipse_Shape radials{box.center().x(), box.center().y(), shape.radius_x, shape.radius_y};
+    const double from = radials.Angle_Of(x1, y1);
+    double to = radials.Angle_Of(x2, y2);
     if (to < from) to += Turn;
     if (to - from < Same_Radial || to - from > Turn - Same_Radial) to = from + Turn;
     Stroke_Curve(*device, shape, {from, to});
