@@ -129,7 +129,9 @@ constexpr platform::Window window = {.name = "Form4",
                                      .load = Form_Load,
                                      .unload = Form_Unload,
                                      .resize = Form_Resize,
-                                     .mouse_down = Form_MouseDown};
+                                     .mouse_down = Form_MouseDown,
+                                     .wheel_away = Command2_Click,
+                                     .wheel_towards = Command4_Click};
 
 constexpr platform::Control_Ref Label1 = Find_Control(window, "Label1");
 constexpr platform::Control_Ref Label4 = Find_Control(window, "Label4");

@@ -115,6 +115,9 @@ struct Window {
     /// The keys pressed in it are the program's to ask for (`GetAsyncKeyState`): none of its
     /// controls takes the focus, so that a key moves nothing and presses no button.
     bool takes_keys = false;
+    /// Each notch of the mouse's wheel, turned away from the user or towards them.
+    Handler wheel_away = nullptr;
+    Handler wheel_towards = nullptr;
 };
 
 /// Names one control of one window.

@@ -79,6 +79,14 @@ void Live_Window::Take_Press(Mouse_Button button, double x, double y, Pixels cli
         [&] { table.mouse_down(button, static_cast<float>(user_x), static_cast<float>(user_y)); });
 }
 
+void Live_Window::Take_Wheel(int turn) {
+    constexpr int Notch = 120;
+    for (wheel += turn; wheel >= Notch; wheel -= Notch)
+        On_Event([this] { Call(table.wheel_away); });
+    for (; wheel <= -Notch; wheel += Notch)
+        On_Event([this] { Call(table.wheel_towards); });
+}
+
 const std::vector<Live_Window*>& Loaded_Windows() {
     return loaded;
 }

@@ -78,6 +78,7 @@ struct Live_Window {
     bool was_shown = false;
     Window_State reported_state = Window_State::Normal;
     Pixels reported_size;  ///< of the frame; outlasts a minimised state
+    int wheel = 0;         ///< what the wheel has turned since the last whole notch
 
     /// Shows the window; the first time with a wiped client area.
     virtual void Present() = 0;
@@ -112,6 +113,9 @@ struct Live_Window {
 
     /// A press on that pixel of a client area of that size.
     void Take_Press(Mouse_Button button, double x, double y, Pixels client) const;
+
+    /// A turn of the wheel away from the user, 120 to a notch; towards them below 0.
+    void Take_Wheel(int turn);
 };
 
 /// The back-end's own: a window with its controls, not yet shown.

@@ -74,6 +74,9 @@ bool Take_Mouse_And_Keys(Live_Window& window, UINT message, WPARAM first, LPARAM
         case WM_MBUTTONDOWN:
             Take_Press(window, Mouse_Button::Middle, second);
             return true;
+        case WM_MOUSEWHEEL:
+            window.Take_Wheel(GET_WHEEL_DELTA_WPARAM(first));
+            return true;
         case WM_COMMAND:
             Take_Command(window, first, second != 0);
             return true;

@@ -118,6 +118,8 @@ keys 1
 window 'KSEA Chart'
 zoomed() { keys KP_Add && [ "$(pixels "$id" $green)" -gt 100 ]; }
 wait_for "the keys do not zoom" zoomed
+farther() { xdotool mousemove --window "$id" 150 150 click 5 && [ "$(pixels "$id" $green)" -lt 100 ]; }
+wait_for "the wheel does not zoom" farther
 # On a French keyboard the key of the Q is the one of the A.
 setxkbmap fr
 paused() { keys 24 && [ "$(pixels "$id" C00000)" -gt 20 ]; }

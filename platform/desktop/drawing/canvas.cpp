@@ -10,7 +10,7 @@
 
 namespace platform::desktop {
 
-Canvas::Canvas(const common::Live_Window& window, QWidget* parent) : QWidget(parent), live(window) {
+Canvas::Canvas(common::Live_Window& window, QWidget* parent) : QWidget(parent), live(window) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     device.pen_colour = window.table.fore_colour;
 }
@@ -93,6 +93,10 @@ void Canvas::mousePressEvent(QMouseEvent* event) {
     live.Take_Press(button, std::floor(event->position().x() * devicePixelRatioF()),
                     std::floor(event->position().y() * devicePixelRatioF()),
                     {size.width(), size.height()});
+}
+
+void Canvas::wheelEvent(QWheelEvent* event) {
+    live.Take_Wheel(event->angleDelta().y());
 }
 
 }  // namespace platform::desktop

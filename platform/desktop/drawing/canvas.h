@@ -12,7 +12,7 @@ namespace platform::desktop {
 /// which it is shown again whenever it is uncovered. The controls are its children.
 class Canvas final : public QWidget {
   public:
-    Canvas(const common::Live_Window& window, QWidget* parent);
+    Canvas(common::Live_Window& window, QWidget* parent);
     ~Canvas() override;
 
     /// Makes the image, wiped; until then drawing is lost.
@@ -31,12 +31,13 @@ class Canvas final : public QWidget {
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
   private:
     QSize Device_Size() const;
     void Fit_Image();
 
-    const common::Live_Window& live;
+    common::Live_Window& live;
     QImage image;
 };
 
