@@ -163,7 +163,7 @@ void Write_Samples(const std::string& folder) {
         {{45, 90.1}, {45.1, 90}},
         {{{45, 90}, 12, 5, 12}},
         {{{}, 0, 1, 0, "B"}, {world::Path_Kind::Parking, 1, 0, 0, ""}}};
-    const world::Airspace_Facts airspace{"", 0, 9, 1243000, "FIR", {{0, 0}, {60, 120}}, {{}, {}}};
+    const world::Airspace_Facts airspace{"", 0, 9, 1243000, "FIR", {{-9, -9}, {60, 120}}, {{}, {}}};
     const Bytes scenery = Text(world::Scenery_File({&airport, 1}, {&airspace, 1}));
     Load(scenery);
     Walk_Bgl();
