@@ -8,7 +8,7 @@
 namespace platform {
 
 /// Runs the program: calls `start` once, then serves events until the program ends.
-/// Returns the exit status. Numbers have a decimal point, whatever the user's locale. The command
+/// Returns the exit status. The command
 /// line belongs to the back-end; the program takes none.
 int Run(int argc, char** argv, Handler start);
 

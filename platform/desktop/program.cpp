@@ -7,7 +7,6 @@
 #include <QSocketNotifier>
 #include <QStyleFactory>
 #include <QTimer>
-#include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -85,8 +84,6 @@ bool Is_Leaving() {
 }
 
 void Set_Up_Application() {
-    // The toolkit takes the user's locale, in which a number may have a decimal comma.
-    std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("skerrand"));
     QGuiApplication::setDesktopFileName(QStringLiteral("skerrand"));
     // A window may close before the next one shows; the end is decided after each handler.

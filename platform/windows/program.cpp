@@ -1,7 +1,6 @@
 #include "platform/windows/program.h"
 
 #include <algorithm>
-#include <clocale>
 
 #include "platform/program.h"
 #include "platform/windows/live.h"

@@ -2,7 +2,6 @@
 // screen_test.cpp has what there is on a screen alone.
 
 #include <array>
-#include <clocale>
 #include <gtest/gtest.h>
 
 #include "platform/files.h"
@@ -116,16 +115,13 @@ TEST_F(Conformance, A_Window_Loads_Once_And_Tells_Every_Change_Of_Its_Size_And_S
     expect_told(5, Window_State::Normal, 100, 80);
 }
 
-TEST_F(Conformance, A_Frame_Has_No_Button_To_Maximise_And_A_Fixed_One_No_Edges_To_Drag) {
-    Show(Second_Window);
-    Show(Key_Window);
-    for (const Window* window : {&Main_Window, &Second_Window, &Key_Window}) {
+TEST_F(Conformance, A_Fixed_Frame_Has_No_Edges_To_Drag) {
+    for (const Window* window : {&Second_Window, &Key_Window}) {
+        Show(*window);
         const auto before = Pixels(*window);
-        driver::Do(driver::Maximise, *window);
-        if (window != &Main_Window) driver::Resize(*window, 500, 400);
+        driver::Resize(*window, 500, 400);
         EXPECT_EQ(Pixels(*window), before) << window->name;
     }
-    EXPECT_EQ(counts.resizes, 0);
 }
 
 TEST_F(Conformance,
@@ -198,10 +194,6 @@ TEST_F(Conformance, A_Folder_List_Moves_Only_To_Folders_That_Exist) {
     const std::string root = Folder_Path(Dir1);
     EXPECT_TRUE(root == "/" || root == working_folder.substr(0, 3)) << root;
     EXPECT_GT(Entry_Count(Dir1), 0);
-}
-
-TEST_F(Conformance, A_Number_Has_A_Decimal_Point_Also_Where_The_User_Writes_A_Comma) {
-    EXPECT_STREQ(std::localeconv()->decimal_point, ".");
 }
 
 TEST_F(Conformance, A_Held_Key_Is_One_Press_And_One_Let_Go_Is_Told_Once_Unless_Before_The_Start) {

@@ -47,8 +47,7 @@ void Type(platform::Control_Ref combo, const std::string& text);
 void Press(const platform::Window& window, platform::Mouse_Button button, int x, int y);
 /// In pixels, by the edges of a frame that has edges to drag.
 void Resize(const platform::Window& window, int client_width, int client_height);
-/// `Maximise` presses that button where the frame has one.
-enum Deed { Minimise, Maximise, Restore, Close };
+enum Deed { Minimise, Restore, Close };
 void Do(Deed deed, const platform::Window& window);
 
 /// A key goes down or up, whichever program has the focus; of a letter, by its virtual-key code.

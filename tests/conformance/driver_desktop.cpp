@@ -135,8 +135,6 @@ void Do(Deed deed, const Window& window) {
     Advance(20);  // The news of what was done before may still be on its way.
     Window_Widget* widget = desktop::Find_Window(window);
     if (deed == Minimise) widget->showMinimized();
-    const bool has_button = widget->windowFlags().testFlag(Qt::WindowMaximizeButtonHint);
-    if (deed == Maximise && has_button) widget->showMaximized();
     if (deed == Restore) widget->showNormal();
     if (deed == Close) widget->close();
     Advance(20);

@@ -64,7 +64,7 @@ void Resize(const Window& window, int client_width, int client_height) {
 }
 
 void Do(Deed deed, const Window& window) {
-    const char* const verbs[] = {"minimise", "", "restore", "close"};
+    const char* const verbs[] = {"minimise", "restore", "close"};
     Do(verbs[deed], window.name);
 }
 

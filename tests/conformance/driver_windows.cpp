@@ -160,9 +160,8 @@ void Resize(const Window& window, int client_width, int client_height) {
 
 void Do(Deed deed, const Window& window) {
     Advance(300);  // The window manager's news of what was done before may still be on its way.
-    constexpr WPARAM commands[] = {SC_MINIMIZE, SC_MAXIMIZE, SC_RESTORE, SC_CLOSE};
+    constexpr WPARAM commands[] = {SC_MINIMIZE, SC_RESTORE, SC_CLOSE};
     const HWND handle = windows::Find_Window(window)->handle;
-    if (deed == Maximise && (GetWindowLongW(handle, GWL_STYLE) & WS_MAXIMIZEBOX) == 0) return;
     PostMessageW(handle, WM_SYSCOMMAND, commands[deed], 0);
     Advance(200);
 }

@@ -124,7 +124,7 @@ Effect Use_Frame(const Window& window, const State& state) {
     const int size = 300 + Below(200);
     closes          ? driver::Do(driver::Close, window)
     : Below(2) == 0 ? driver::Resize(window, size, size)
-                    : driver::Do(static_cast<driver::Deed>(Below(3)), window);
+                    : driver::Do(static_cast<driver::Deed>(Below(2)), window);
     const bool sized = platform::Outer_Size(form4::window).width != width;
     return sized || State().minimised != state.minimised ? Sizes : None;
 }

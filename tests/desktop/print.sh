@@ -114,9 +114,6 @@ for option in media PageSize; do
     pdfinfo "$printed" | grep -q A5 || fail "the user's own paper, by $option, is not taken"
     rm -- "$printed"
 done
-sed /300dpi/d "$here/printer.ppd" > fine.ppd
-lpadmin -p test -P fine.ppd 2> /dev/null
-expect_sheet "a finer printer" 1200 6250
 lpadmin -p raw -E -v "file://$printed" 2> /dev/null
 lpoptions -d raw > /dev/null
 expect_sheet "a printer that does not tell" 600 4724 6783

@@ -74,20 +74,6 @@ class Transport : public testing::Test {
     pid_t server = 0;
 };
 
-TEST_F(Transport, Server_Outlives_The_Process_That_It_Follows) {
-    const pid_t followed = In_Child([] { return pause() == 0; });
-    const pid_t follower = In_Child([&] {
-        alarm(20);
-        const bool follows = simulator::Follow(followed) && simulator::Wait(10);
-        kill(followed, SIGKILL);
-        simulator::Serve([](auto) { return 1; });
-        return follows && !simulator::Wait(Long_Enough);
-    });
-    EXPECT_TRUE(Ended_Well(follower));
-    EXPECT_FALSE(Ended_Well(followed));
-    EXPECT_FALSE(simulator::Follow(followed));
-}
-
 TEST_F(Transport, Slow_Server_Holds_The_Client_Or_Its_Late_Reply_Is_Taken) {
     Start_Server([reply = 6U](auto) mutable {
         if (++reply != 8) raise(SIGSTOP);
