@@ -7,9 +7,8 @@
 /// The life of the process.
 namespace platform {
 
-/// Runs the program: calls `start` once, then serves events until the program ends.
-/// Returns the exit status. The command
-/// line belongs to the back-end; the program takes none.
+/// Runs the program: calls `start` once, then serves events until the program ends. Returns the
+/// exit status. The command line belongs to the back-end; the program takes none.
 int Run(int argc, char** argv, Handler start);
 
 /// Ends the program once the running handler has returned. No unload handler is called, no timer
